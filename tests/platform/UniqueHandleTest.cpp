@@ -1,0 +1,43 @@
+#include "platform/UniqueHandle.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace quorin {
+namespace {
+
+std::vector<int> closed;
+
+struct FakeTraits {
+    using Handle = int;
+    static constexpr int None() { return 0; }
+    static void Close(int handle) { closed.push_back(handle); }
+};
+using FakeHandle = UniqueHandle<FakeTraits>;
+
+TEST(UniqueHandle, ClosesExactlyOnceWhateverOwnsIt) {
+    closed.clear();
+    {
+        FakeHandle a(7);
+        FakeHandle b(std::move(a));
+        EXPECT_FALSE(a);
+        EXPECT_TRUE(b);
+        FakeHandle c(9);
+        c = std::move(b);  // 9 closes here, 7 moves on
+        EXPECT_EQ(closed, std::vector<int>{9});
+        EXPECT_EQ(c.get(), 7);
+    }
+    EXPECT_EQ(closed, (std::vector<int>{9, 7}));
+}
+
+TEST(UniqueHandle, ReleaseHandsOwnershipBack) {
+    closed.clear();
+    FakeHandle a(5);
+    EXPECT_EQ(a.release(), 5);
+    a.reset();
+    EXPECT_TRUE(closed.empty());
+}
+
+}  // namespace
+}  // namespace quorin
