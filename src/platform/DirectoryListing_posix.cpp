@@ -1,0 +1,65 @@
+#include "platform/DirectoryListing.h"
+
+#include "platform/UniqueFd.h"
+
+#include <array>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace quorin {
+namespace {
+
+// getdents64 straight into one buffer: open, a few reads and close per folder, and no stat
+// unless the file system does not say what an entry is.
+constexpr size_t kBufferSize = 32 * 1024;
+
+bool IsListed(std::string_view name) {
+    return name.front() != '.' && name.find_first_of("\r\n") == std::string_view::npos;
+}
+
+enum class Kind { File, Folder, Vanished };
+
+// A symbolic link counts as a file, so the walk never follows one into a loop.
+Kind KindOf(int folderFd, const dirent64& entry) {
+    if (entry.d_type != DT_UNKNOWN) {
+        return entry.d_type == DT_DIR ? Kind::Folder : Kind::File;
+    }
+    struct stat status {};
+    if (fstatat(folderFd, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+        return Kind::Vanished;
+    }
+    return S_ISDIR(status.st_mode) ? Kind::Folder : Kind::File;
+}
+
+}  // namespace
+
+void ListFolder(const std::string& folder, bool /*includeSystem*/, const EntryCallback& onEntry) {
+    const UniqueFd folderFd(
+        open(folder.empty() ? "/" : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folderFd) {
+        return;
+    }
+    alignas(dirent64) std::array<char, kBufferSize> buffer;
+    for (;;) {
+        const ssize_t filled = getdents64(folderFd.get(), buffer.data(), buffer.size());
+        if (filled <= 0) {
+            return;
+        }
+        for (size_t offset = 0; offset < static_cast<size_t>(filled);) {
+            const auto& entry = *reinterpret_cast<const dirent64*>(buffer.data() + offset);
+            offset += entry.d_reclen;
+            const std::string_view name(entry.d_name);
+            if (!IsListed(name)) {
+                continue;
+            }
+            const Kind kind = KindOf(folderFd.get(), entry);
+            if (kind != Kind::Vanished) {
+                onEntry(name, kind == Kind::Folder);
+            }
+        }
+    }
+}
+
+}  // namespace quorin

@@ -1,0 +1,46 @@
+#include "platform/MessageBoxPrompter.h"
+
+#include "platform/Text.h"
+
+namespace quorin {
+namespace {
+
+UINT StyleOf(PromptButtons buttons, PromptIcon icon) {
+    const UINT buttonStyle = buttons == PromptButtons::YesNo ? MB_YESNO : MB_OK;
+    switch (icon) {
+        case PromptIcon::Information:
+            return buttonStyle | MB_ICONINFORMATION;
+        case PromptIcon::Question:
+            return buttonStyle | MB_ICONQUESTION;
+        case PromptIcon::Exclamation:
+            return buttonStyle | MB_ICONEXCLAMATION;
+        case PromptIcon::Critical:
+            return buttonStyle | MB_ICONERROR;
+        case PromptIcon::None:
+            break;
+    }
+    return buttonStyle;
+}
+
+PromptAnswer AnswerOf(int result) {
+    switch (result) {
+        case IDOK:
+            return PromptAnswer::Ok;
+        case IDYES:
+            return PromptAnswer::Yes;
+        case IDNO:
+            return PromptAnswer::No;
+        default:
+            return PromptAnswer::Cancel;  // closed some other way, or the box failed
+    }
+}
+
+}  // namespace
+
+PromptAnswer MessageBoxPrompter::Ask(std::string_view title, std::string_view text,
+                                     PromptButtons buttons, PromptIcon icon) {
+    return AnswerOf(
+        MessageBoxW(owner_, Widen(text).c_str(), Widen(title).c_str(), StyleOf(buttons, icon)));
+}
+
+}  // namespace quorin

@@ -1,0 +1,84 @@
+#include "platform/Clock.h"
+#include "platform/OleDate.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace quorin {
+namespace {
+
+TEST(OleDate, MatchesKnownDays) {
+    struct Case {
+        double oleDate;
+        CivilTime time;
+    };
+    const std::vector<Case> cases = {
+        {0.0, {1899, 12, 30, 0, 0, 0}},
+        {1.5, {1899, 12, 31, 12, 0, 0}},
+        {2.0, {1900, 1, 1, 0, 0, 0}},
+        {60.0, {1900, 2, 28, 0, 0, 0}},  // no 29 February 1900
+        {61.0, {1900, 3, 1, 0, 0, 0}},
+        {-1.25, {1899, 12, 29, 6, 0, 0}},  // before the epoch the fraction still counts forward
+        {36526.0, {2000, 1, 1, 0, 0, 0}},
+        {-657434.0, {100, 1, 1, 0, 0, 0}},
+        {45351.75, {2024, 2, 29, 18, 0, 0}},
+        {2958465.0 + 86399.0 / 86400.0, {9999, 12, 31, 23, 59, 59}},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(FromOleDate(c.oleDate), c.time) << c.oleDate;
+        EXPECT_NEAR(ToOleDate(c.time), c.oleDate, 1e-9) << c.oleDate;
+        EXPECT_EQ(ParseIndexDate(FormatIndexDate(c.oleDate)), c.oleDate) << c.oleDate;
+    }
+}
+
+TEST(OleDate, RoundTripsEverySecondOfSampledDays) {
+    for (const CivilTime day : {CivilTime{1899, 12, 29}, CivilTime{1970, 1, 1},
+                                CivilTime{2038, 1, 19}, CivilTime{2100, 12, 31}}) {
+        for (int second = 0; second < 86400; second += 7) {
+            CivilTime time = day;
+            time.hour = second / 3600;
+            time.minute = second / 60 % 60;
+            time.second = second % 60;
+            ASSERT_EQ(FromOleDate(ToOleDate(time)), time) << FormatIndexDate(ToOleDate(time));
+        }
+    }
+}
+
+TEST(OleDate, RoundsToTheNearestSecond) {
+    const double noon = ToOleDate({2024, 5, 6, 12, 0, 0});
+    const double second = 1.0 / 86400.0;
+    EXPECT_EQ(FormatIndexDate(noon + 0.4 * second), "2024-05-06 12:00:00");
+    EXPECT_EQ(FormatIndexDate(noon + 0.6 * second), "2024-05-06 12:00:01");
+    EXPECT_EQ(FormatIndexDate(ToOleDate({2024, 12, 31, 23, 59, 59}) + 0.7 * second),
+              "2025-01-01 00:00:00");
+}
+
+TEST(IndexDate, ReadsBackWhatItWritesAndNothingElse) {
+    const double date = ToOleDate({2024, 3, 5, 7, 8, 9});
+    EXPECT_EQ(FormatIndexDate(date), "2024-03-05 07:08:09");
+    EXPECT_EQ(ParseIndexDate(" \t2024-03-05 07:08:09 \t"), date);
+    // clang-format off
+    const char* const rejected[] = {
+        "", "   ", "garbage", "2024-03-05", "2024-03-05 07:08", "2024-3-05 07:08:09",
+        "2024-03-05  07:08:09", "2024-03-05T07:08:09", "2024/03/05 07:08:09",
+        "2024-03-05 07:08:09.5", "x2024-03-05 07:08:09", "2024-03-05 07:08:09 x",
+        "+024-03-05 07:08:09", "2024-00-05 07:08:09", "2024-13-05 07:08:09",
+        "2024-03-00 07:08:09", "2024-04-31 07:08:09", "2023-02-29 07:08:09",
+        "1900-02-29 07:08:09", "2024-03-05 24:00:00", "2024-03-05 07:60:09",
+        "2024-03-05 07:08:60", "0099-12-31 23:59:59", "3/5/2024 7:08:09 AM", " 42"};
+    // clang-format on
+    for (const char* text : rejected) {
+        EXPECT_FALSE(ParseIndexDate(text).has_value()) << '"' << text << '"';
+    }
+}
+
+TEST(SystemClock, GivesWholeSecondsThatSurviveTheIndexFile) {
+    const double now = SystemClock().Now();
+    EXPECT_GT(now, ToOleDate({2020, 1, 1}));
+    EXPECT_EQ(ParseIndexDate(FormatIndexDate(now)), now);
+}
+
+}  // namespace
+}  // namespace quorin

@@ -1,0 +1,113 @@
+#include "platform/Errors.h"
+#include "platform/FileSystem.h"
+#include "platform/IniSettingsStore.h"
+#include "platform/Path.h"
+#include "platform/TextFile.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#ifdef _WIN32
+#include "platform/Text.h"
+#include "platform/WinHandles.h"
+#else
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace quorin {
+namespace {
+
+std::string ErrorOf(const std::string& path) {
+    try {
+        IniSettingsStore store(path);
+    } catch (const FileError& error) {
+        return error.what();
+    }
+    return "no error";
+}
+
+TEST(IniSettingsStore, ReadsSectionsKeysAndValuesAsWritten) {
+    TempFolder temp;
+    const std::string path = temp.WriteFile("quorin.ini",
+                                            "\xEF\xBB\xBF; written by hand\r\n"
+                                            "\r\n"
+                                            "[Index]\r\n"
+                                            "Filter=.DOC .TXT \r\n"
+                                            "  Interval = 12\n"
+                                            "# comment\r"
+                                            "[ Main ]\r\n"
+                                            "Folder=C:\\Program Files\\Quorin=1\r\n"
+                                            "Title=caf\xE9\r\n");
+    const IniSettingsStore store(path);
+    EXPECT_EQ(store.Get("INDEX", "filter", ""), ".DOC .TXT ") << "the trailing blank is data";
+    EXPECT_EQ(store.Get("Index", "Interval", ""), " 12");
+    EXPECT_EQ(store.Get("main", "Folder", ""), "C:\\Program Files\\Quorin=1");
+    EXPECT_EQ(store.Get("Main", "Title", ""), "caf\xC3\xA9");
+    EXPECT_EQ(store.Get("Main", "Missing", "default"), "default");
+}
+
+TEST(IniSettingsStore, SavesEveryValueToTheFileAndReadsThemBack) {
+    TempFolder temp;
+    const std::string path = JoinPath(JoinPath(temp.Path(), "new folder"), "settings.ini");
+    {
+        IniSettingsStore store(path);
+        EXPECT_EQ(store.Get("Index", "Interval", "24"), "24") << "a missing file is empty";
+        store.Save("Index", "Filter", ".DOC .XLS ");
+        store.Save("Main", "Left", "1200");
+        store.Save("index", "FILTER", ".TXT ");
+        store.Save("Index", "Drive0", "C:");
+    }
+    EXPECT_EQ(ReadWholeFile(path),
+              "[Index]\r\nDrive0=C:\r\nFilter=.TXT \r\n\r\n[Main]\r\nLeft=1200\r\n");
+    const IniSettingsStore reread(path);
+    EXPECT_EQ(reread.Get("Index", "Filter", ""), ".TXT ");
+    EXPECT_EQ(reread.Get("Main", "Left", ""), "1200");
+}
+
+TEST(IniSettingsStore, RefusesNamesAndValuesThatCannotBeWrittenAsALine) {
+    TempFolder temp;
+    IniSettingsStore store(JoinPath(temp.Path(), "settings.ini"));
+    EXPECT_THROW(store.Save("Main", "a=b", "1"), Error);
+    EXPECT_THROW(store.Save("Main", "", "1"), Error);
+    EXPECT_THROW(store.Save("Main", ";key", "1"), Error);
+    EXPECT_THROW(store.Save("Main", " key", "1"), Error);
+    EXPECT_THROW(store.Save("", "key", "1"), Error);
+    EXPECT_THROW(store.Save("Main", "key", "two\r\nlines"), Error);
+    EXPECT_FALSE(FileExists(JoinPath(temp.Path(), "settings.ini")));
+}
+
+TEST(IniSettingsStore, AMalformedLineFailsNamingTheFileAndTheLine) {
+    TempFolder temp;
+    const std::string noSection = temp.WriteFile("a.ini", "; comment\r\nkey=value\r\n");
+    const std::string noEquals = temp.WriteFile("b.ini", "[Main]\r\nok=1\r\n\r\njust text\r\n");
+    const std::string noKey = temp.WriteFile("c.ini", "[Main]\r\n=value\r\n");
+    const std::string badHeader = temp.WriteFile("d.ini", "[Main\r\n");
+    EXPECT_EQ(ErrorOf(noSection), "Line 2 of the settings file \"" + noSection +
+                                      "\" is neither a [section] header nor a key=value line.");
+    EXPECT_NE(ErrorOf(noEquals).find("Line 4 of the settings file \"" + noEquals + "\""),
+              std::string::npos);
+    EXPECT_NE(ErrorOf(noKey).find("Line 2 "), std::string::npos);
+    EXPECT_NE(ErrorOf(badHeader).find("Line 1 "), std::string::npos);
+}
+
+TEST(IniSettingsStore, AnUnreadableFileFailsNamingIt) {
+    TempFolder temp;
+    const std::string path = temp.WriteFile("locked.ini", "[Main]\r\n");
+#ifdef _WIN32
+    const UniqueFileHandle lock(CreateFileW(Widen(path).c_str(), GENERIC_READ, 0, nullptr,
+                                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    ASSERT_TRUE(lock);
+#else
+    if (geteuid() == 0) {
+        GTEST_SKIP() << "root reads every file";
+    }
+    ASSERT_EQ(chmod(path.c_str(), 0), 0);
+#endif
+    EXPECT_NE(ErrorOf(path).find("\"" + path + "\""), std::string::npos) << ErrorOf(path);
+}
+
+}  // namespace
+}  // namespace quorin

@@ -1,0 +1,142 @@
+#include "platform/TextFile.h"
+
+#include "platform/Errors.h"
+#include "platform/FileSystem.h"
+#include "platform/Path.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#ifdef _WIN32
+#include "platform/Text.h"
+#include "platform/WinHandles.h"
+#endif
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace quorin {
+namespace {
+
+std::vector<std::string> ReadLines(const std::string& path) {
+    TextFileReader reader(path);
+    std::vector<std::string> lines;
+    std::string line;
+    while (reader.ReadLine(line)) {
+        lines.push_back(line);
+    }
+    EXPECT_TRUE(reader.AtEnd());
+    return lines;
+}
+
+size_t FileCount(const std::string& folder) {
+    size_t count = 0;
+    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(FsPath(folder))) {
+        ++count;
+    }
+    return count;
+}
+
+TEST(TextFileReader, SplitsAtEveryKindOfLineEnd) {
+    struct Case {
+        std::string content;
+        std::vector<std::string> lines;
+    };
+    const std::vector<Case> cases = {
+        {"", {}},
+        {"one\r\ntwo\r\n", {"one", "two"}},
+        {"one\ntwo\n", {"one", "two"}},
+        {"one\rtwo\r", {"one", "two"}},
+        {"one\r\ntwo", {"one", "two"}},  // no line end after the last line
+        {"mixed\r\nends\nhere\rlast", {"mixed", "ends", "here", "last"}},
+        {"\r", {""}},
+        {"\r\r", {"", ""}},
+        {"\n\r\n", {"", ""}},
+        {"a\n\nb", {"a", "", "b"}},
+        {" 42 \r\n", {" 42 "}},  // blanks belong to the line
+    };
+    TempFolder temp;
+    for (const Case& c : cases) {
+        const std::string path = temp.WriteFile("lines.txt", c.content);
+        EXPECT_EQ(ReadLines(path), c.lines) << testing::PrintToString(c.content);
+    }
+}
+
+TEST(TextFileReader, SkipsALeadingBomAndDecodesNonUtf8LinesAsAnsi) {
+    TempFolder temp;
+    const std::string path = temp.WriteFile("words.txt",
+                                            "\xEF\xBB\xBF"
+                                            "caf\xC3\xA9\r\ncaf\xE9\r\n\xEF\xBB\xBFx\r\n");
+    // Only the first BOM is a marker; later ones are text.
+    EXPECT_EQ(ReadLines(path),
+              (std::vector<std::string>{"caf\xC3\xA9", "caf\xC3\xA9", "\xEF\xBB\xBFx"}));
+}
+
+TEST(TextFile, ReadingAMissingFileFailsNamingIt) {
+    TempFolder temp;
+    const std::string path = JoinPath(temp.Path(), "absent.txt");
+    try {
+        TextFileReader reader(path);
+        FAIL() << "no error for a missing file";
+    } catch (const FileError& error) {
+        EXPECT_NE(std::string(error.what()).find(path), std::string::npos) << error.what();
+    }
+}
+
+TEST(ReplaceFileWhole, CreatesAndReplacesTheWholeFile) {
+    TempFolder temp;
+    const std::string path = JoinPath(temp.Path(), "index.txt");
+    ReplaceFileWhole(path, "first version, rather long\r\n");
+    EXPECT_EQ(ReadWholeFile(path), "first version, rather long\r\n");
+    ReplaceFileWhole(path, "second\r\n");
+    EXPECT_EQ(ReadWholeFile(path), "second\r\n");
+    ReplaceFileWhole(path, "");
+    EXPECT_EQ(ReadWholeFile(path), "");
+    const std::string big(3 * 1024 * 1024 + 7, 'x');
+    ReplaceFileWhole(path, big);
+    EXPECT_EQ(ReadWholeFile(path), big);
+    EXPECT_EQ(FileCount(temp.Path()), 1u) << "a temporary file was left behind";
+}
+
+TEST(ReplaceFileWhole, FailsNamingTheFileWhenItsFolderIsMissing) {
+    TempFolder temp;
+    const std::string path = JoinPath(JoinPath(temp.Path(), "missing"), "index.txt");
+    try {
+        ReplaceFileWhole(path, "data");
+        FAIL() << "no error for a missing folder";
+    } catch (const FileError& error) {
+        const std::string message = error.what();
+        EXPECT_NE(message.find("\"" + path + "\""), std::string::npos) << message;
+        EXPECT_EQ(message.back(), '.');
+        EXPECT_GT(message.size(), path.size() + 30) << "the OS reason is missing: " << message;
+    }
+    EXPECT_EQ(FileCount(temp.Path()), 0u);
+}
+
+TEST(ReplaceFileWhole, LeavesWhatIsThereWhenTheTargetCannotBeReplaced) {
+    TempFolder temp;
+    const std::string folder = temp.MakeFolder("index.txt");
+    temp.WriteFile("index.txt/inside.txt", "keep");
+    EXPECT_THROW(ReplaceFileWhole(folder, "new"), FileError);
+    EXPECT_EQ(ReadWholeFile(JoinPath(folder, "inside.txt")), "keep");
+    EXPECT_EQ(FileCount(temp.Path()), 1u) << "the temporary file was not removed";
+}
+
+#ifdef _WIN32
+TEST(ReplaceFileWhole, KeepsTheOldFileWholeWhenTheTargetIsInUse) {
+    TempFolder temp;
+    const std::string path = temp.WriteFile("words.txt", "old words\r\n");
+    {
+        const UniqueFileHandle inUse(CreateFileW(Widen(path).c_str(), GENERIC_READ, 0, nullptr,
+                                                 OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+        ASSERT_TRUE(inUse);
+        EXPECT_THROW(ReplaceFileWhole(path, "new words\r\n"), FileError);
+    }
+    EXPECT_EQ(ReadWholeFile(path), "old words\r\n");
+    EXPECT_EQ(FileCount(temp.Path()), 1u) << "the temporary file was not removed";
+}
+#endif
+
+}  // namespace
+}  // namespace quorin
