@@ -1,0 +1,161 @@
+#include "platform/registry/clsRegistry.h"
+
+#include "platform/Errors.h"
+#include "platform/registry/ScratchClasses.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace quorin {
+namespace {
+
+using Names = std::vector<std::string>;
+
+class RegistryTest : public ::testing::Test {
+  protected:
+    RegistryValue Read(const std::string& key, const std::string& name = "") const {
+        return registry_.QueryValue(HKEY_CLASSES_ROOT, key, name);
+    }
+    Names List(const std::string& key) const {
+        return registry_.GetKeyNames(HKEY_CLASSES_ROOT, key);
+    }
+
+    ScratchClasses classes_;
+    clsRegistry registry_;
+};
+
+TEST_F(RegistryTest, ReadsAnExtensionsTypeAndTheTypesDescription) {
+    classes_.RegisterType(".qzt", "QuorinTest.Text", "Quorin test text", "");
+    EXPECT_EQ(Read(".qzt"), RegistryValue("QuorinTest.Text"));
+    EXPECT_EQ(Read("QuorinTest.Text"), RegistryValue("Quorin test text"));
+}
+
+TEST_F(RegistryTest, AnythingMissingReadsAsTheEmptyValue) {
+    classes_.RegisterType(".qzt", "QuorinTest.Text", "", "");
+    EXPECT_TRUE(Read(".qzunregistered").IsEmpty());
+    EXPECT_TRUE(Read(".qzt", "NoSuchValue").IsEmpty());
+    EXPECT_TRUE(Read("QuorinTest.Text\\DefaultIcon").IsEmpty());
+    EXPECT_TRUE(Read("\\DefaultIcon").IsEmpty());  // what an unregistered type's icon asks for
+    EXPECT_EQ(Read(".qzunregistered").AsText(), "");
+}
+
+TEST_F(RegistryTest, TextAndNumbersComeBackAsStoredOtherTypesAsEmpty) {
+    const std::string key = "QuorinTest.Values";
+    classes_.SetText(key, "expand", "%SystemRoot%\\system32\\shell32.dll,-152", REG_EXPAND_SZ);
+    classes_.SetText(key, "accents", "Fichier texte \xC3\xA9t\xC3\xA9");
+    const DWORD negative = 0xFFFFFF85;
+    classes_.SetValue(key, "dword", REG_DWORD, &negative, sizeof negative);
+    const BYTE binary[] = {'a', 0, 'b', 0, 0, 0};
+    classes_.SetValue(key, "binary", REG_BINARY, binary, sizeof binary);
+    const ULONGLONG wide = 5;
+    classes_.SetValue(key, "qword", REG_QWORD, &wide, sizeof wide);
+    classes_.SetValue(key, "nodata", REG_SZ, nullptr, 0);
+
+    EXPECT_EQ(Read(key, "expand"), RegistryValue("%SystemRoot%\\system32\\shell32.dll,-152"));
+    EXPECT_EQ(Read(key, "accents"), RegistryValue("Fichier texte \xC3\xA9t\xC3\xA9"));
+    EXPECT_EQ(Read(key, "dword"), RegistryValue(-123));
+    EXPECT_TRUE(Read(key, "binary").IsEmpty());
+    EXPECT_TRUE(Read(key, "qword").IsEmpty());
+    EXPECT_TRUE(Read(key, "nodata").IsEmpty());
+}
+
+TEST_F(RegistryTest, ListsSubkeysFollowedByOneEmptyName) {
+    classes_.CreateKey("QuorinTest.Parent\\First");
+    classes_.CreateKey("QuorinTest.Parent\\Second");
+    classes_.CreateKey("QuorinTest.Parent\\Third\\Grandchild");
+    classes_.CreateKey("QuorinTest.Childless");
+
+    EXPECT_EQ(List("QuorinTest.Parent"), (Names{"First", "Second", "Third", ""}));
+    EXPECT_EQ(List("QuorinTest.Childless"), Names{""});
+    EXPECT_EQ(List("QuorinTest.Missing"), Names{""});
+}
+
+TEST_F(RegistryTest, ANameOfFiftyCharactersEndsTheListing) {
+    const std::string fits = "a" + std::string(48, 'x');
+    const std::string tooLong = "b" + std::string(49, 'x');
+    classes_.CreateKey("QuorinTest.Long\\" + fits);
+    classes_.CreateKey("QuorinTest.Long\\" + tooLong);
+    classes_.CreateKey("QuorinTest.Long\\c");
+
+    EXPECT_EQ(List("QuorinTest.Long"), (Names{fits, ""}));
+}
+
+TEST_F(RegistryTest, ListsAtMostTheFixedNumberOfNames) {
+    for (size_t i = 0; i < clsRegistry::kMaxKeyNames; ++i) {
+        classes_.CreateKey("QuorinTest.Many\\" + std::to_string(10000 + i));
+    }
+    EXPECT_EQ(List("QuorinTest.Many").size(), clsRegistry::kMaxKeyNames + 1);
+
+    classes_.CreateKey("QuorinTest.Many\\99999");
+    EXPECT_THROW(List("QuorinTest.Many"), OutOfRangeError);
+}
+
+TEST_F(RegistryTest, KeysThatMayOnlyBeReadAreStillRead) {
+    classes_.RegisterType(".qzro", "QuorinTest.ReadOnly", "Read only", "");
+    classes_.CreateKey("QuorinTest.ReadOnly\\Child");
+    classes_.MakeReadOnly(".qzro");
+    classes_.MakeReadOnly("QuorinTest.ReadOnly");
+    HKEY key = nullptr;
+    ASSERT_EQ(RegOpenKeyExW(HKEY_CLASSES_ROOT, L".qzro", 0, KEY_ALL_ACCESS, &key),
+              ERROR_ACCESS_DENIED);
+
+    EXPECT_EQ(Read(".qzro"), RegistryValue("QuorinTest.ReadOnly"));
+    EXPECT_EQ(List("QuorinTest.ReadOnly"), (Names{"Child", ""}));
+}
+
+// SetKeyValue writes under HKEY_CURRENT_USER only, so these tests keep to a key of their own.
+class RegistryWriteTest : public ::testing::Test {
+  protected:
+    static constexpr char kKey[] = "Software\\Quorin Tests\\Registry";
+
+    void SetUp() override { registry_.CreateNewKey(kKey, HKEY_CURRENT_USER); }
+    void TearDown() override { RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Quorin Tests"); }
+
+    RegistryValue Read(const std::string& name) const {
+        return registry_.QueryValue(HKEY_CURRENT_USER, kKey, name);
+    }
+
+    clsRegistry registry_;
+};
+
+TEST_F(RegistryWriteTest, WritesTextWithItsTerminatingNul) {
+    registry_.SetKeyValue(kKey, "text", RegistryValue("h\xC3\xA9llo"), REG_SZ);
+    registry_.SetKeyValue(kKey, "number", RegistryValue(42), REG_SZ);
+
+    EXPECT_EQ(Read("text"), RegistryValue("h\xC3\xA9llo"));
+    EXPECT_EQ(Read("number"), RegistryValue("42"));
+    DWORD type = 0;
+    DWORD size = 0;
+    ASSERT_EQ(RegGetValueW(HKEY_CURRENT_USER, L"Software\\Quorin Tests\\Registry", L"text",
+                           RRF_RT_ANY, &type, nullptr, &size),
+              ERROR_SUCCESS);
+    EXPECT_EQ(type, static_cast<DWORD>(REG_SZ));
+    EXPECT_EQ(size, 6 * sizeof(wchar_t));
+}
+
+TEST_F(RegistryWriteTest, WritesNumbersFromNumbersAndFromText) {
+    registry_.SetKeyValue(kKey, "fromNumber", RegistryValue(-7), REG_DWORD);
+    registry_.SetKeyValue(kKey, "fromText", RegistryValue(" 1234 "), REG_DWORD);
+
+    EXPECT_EQ(Read("fromNumber"), RegistryValue(-7));
+    EXPECT_EQ(Read("fromText"), RegistryValue(1234));
+    EXPECT_THROW(registry_.SetKeyValue(kKey, "bad", RegistryValue("12 monkeys"), REG_DWORD),
+                 TypeMismatchError);
+}
+
+TEST_F(RegistryWriteTest, WritesNothingOfOtherTypesOrToMissingKeys) {
+    registry_.SetKeyValue(kKey, "binary", RegistryValue("data"), REG_BINARY);
+    registry_.SetKeyValue("Software\\Quorin Tests\\Missing", "text", RegistryValue("x"), REG_SZ);
+
+    EXPECT_EQ(registry_.GetKeyNames(HKEY_CURRENT_USER, "Software\\Quorin Tests"),
+              (Names{"Registry", ""}));
+    DWORD size = 0;
+    EXPECT_EQ(RegGetValueW(HKEY_CURRENT_USER, L"Software\\Quorin Tests\\Registry", L"binary",
+                           RRF_RT_ANY, nullptr, nullptr, &size),
+              ERROR_FILE_NOT_FOUND);
+}
+
+}  // namespace
+}  // namespace quorin
