@@ -1,0 +1,110 @@
+#include "cli/CliApp.h"
+
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <system_error>
+
+#include "cli/CommandLine.h"
+#include "cli/ConsolePrompter.h"
+#include "cli/DefaultSettings.h"
+#include "cli/IdleEventPump.h"
+#include "cli/SilentProgressWindow.h"
+#include "cli/UsageError.h"
+#include "index/clsIndex.h"
+#include "platform/FileSystem.h"
+#include "platform/IniSettingsStore.h"
+#include "platform/Path.h"
+#include "platform/TextFile.h"
+
+namespace quorin {
+namespace {
+
+std::string ProgramFolder(const CliRequest& request) {
+    const std::string folder = request.folder.value_or(ExecutableFolder());
+    std::error_code error;
+    if (!std::filesystem::is_directory(FsPath(folder), error)) {
+        throw Error("The program folder \"" + folder + "\" does not exist.");
+    }
+    return folder;
+}
+
+std::unique_ptr<SettingsStore> OpenSettings(const CliRequest& request) {
+    if (!request.settingsFile) {
+        return OpenDefaultSettings();
+    }
+    // A mistyped name would otherwise quietly index with the default settings.
+    if (!FileExists(*request.settingsFile)) {
+        throw Error("The settings file \"" + *request.settingsFile + "\" does not exist.");
+    }
+    return std::make_unique<IniSettingsStore>(*request.settingsFile);
+}
+
+std::string FullPath(const clsIndex& index, const clsItem& item) {
+    return JoinPath(index.GetPath(item.Directory), item.Filename);
+}
+
+void Build(clsIndex& index, std::ostream& out) {
+    SilentProgressWindow window;
+    const auto start = std::chrono::steady_clock::now();
+    index.CreateIndex(true, window);
+    const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
+    char seconds[32];
+    std::snprintf(seconds, sizeof seconds, "%.2f", elapsed.count());
+    out << "Indexed " << index.FolderCount() << " folders and " << index.ItemCount() << " files in "
+        << seconds << " s.\n";
+}
+
+void Find(const clsIndex& index, const std::string& word, std::ostream& out) {
+    const std::optional<MatchList> matches = index.FindMatch(word);
+    if (!matches) {
+        return;
+    }
+    for (int32_t position = 1; position <= matches->Count(); ++position) {
+        out << FullPath(index, matches->Item(position)) << '\n';
+    }
+}
+
+void ListWords(clsIndex& index, std::ostream& out) {
+    for (const clsItem& item : index.Words()) {
+        out << item.Word << '\t' << FullPath(index, item) << '\n';
+    }
+}
+
+void Run(const CliRequest& request, std::ostream& out, std::ostream& err) {
+    const std::string folder = ProgramFolder(request);
+    const std::unique_ptr<SettingsStore> settings = OpenSettings(request);
+    const SystemClock clock;
+    ConsolePrompter prompter(err);
+    IdleEventPump events;
+    clsIndex index(IndexServices{*settings, clock, prompter, events, folder});
+    switch (request.command) {
+        case CliCommand::Build:
+            Build(index, out);
+            break;
+        case CliCommand::Find:
+            Find(index, request.word, out);
+            break;
+        case CliCommand::Words:
+            ListWords(index, out);
+            break;
+    }
+}
+
+}  // namespace
+
+int RunCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+    try {
+        Run(ParseCommandLine(args), out, err);
+        out.flush();
+        return 0;
+    } catch (const UsageError& error) {
+        err << error.what() << '\n' << kUsage << '\n';
+    } catch (const std::exception& error) {
+        err << error.what() << '\n';
+    }
+    return 1;
+}
+
+}  // namespace quorin

@@ -1,0 +1,18 @@
+#include <windows.h>
+
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/CliApp.h"
+#include "platform/Text.h"
+
+// wmain, so that arguments outside the ANSI code page arrive whole.
+int wmain(int argc, wchar_t** argv) {
+    SetConsoleOutputCP(CP_UTF8);
+    std::vector<std::string> args;
+    for (int i = 1; i < argc; ++i) {
+        args.push_back(quorin::Narrow(argv[i]));
+    }
+    return quorin::RunCli(args, std::cout, std::cerr);
+}

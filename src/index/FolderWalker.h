@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "index/FolderTable.h"
+#include "index/IndexItems.h"
+
+namespace quorin {
+
+// What a build indexes, taken from the engine's settings when the build starts.
+struct WalkOptions {
+    std::string filter;
+    bool filterIsInclude = true;
+    bool includeSystemFolders = true;
+    bool ignoreTempFolders = true;
+};
+
+// Walks one folder of the table at a time: its subfolders join the end of the table (which is
+// thus the queue of a breadth-first walk) and its files that pass the filter join the items.
+class FolderWalker {
+  public:
+    FolderWalker(WalkOptions options, FolderTable& folders, IndexItems& items);
+
+    // An unreadable folder adds nothing; subfolders beyond the table's last slot are left out.
+    void Walk(int32_t slot);
+
+  private:
+    void AddFolder(const std::string& parent, std::string_view name);
+
+    WalkOptions options_;
+    FolderTable& folders_;
+    IndexItems& items_;
+};
+
+}  // namespace quorin

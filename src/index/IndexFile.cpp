@@ -1,0 +1,128 @@
+#include "index/IndexFile.h"
+
+#include <charconv>
+#include <system_error>
+
+#include "index/LenientConversions.h"
+#include "platform/Errors.h"
+#include "platform/FileSystem.h"
+#include "platform/OleDate.h"
+#include "platform/TextFile.h"
+
+namespace quorin {
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+// " 5000\r\n": a record's number line at most.
+constexpr size_t kNumberLineBytes = 7;
+
+uintmax_t FileSizeOrZero(const std::string& path) {
+    std::error_code error;
+    const uintmax_t size = std::filesystem::file_size(FsPath(path), error);
+    return error ? 0 : size;
+}
+
+std::optional<int32_t> ParseInRange(const std::string& line, int32_t max) {
+    const std::optional<int32_t> number = ParseWholeNumber(line);
+    if (!number || *number < 0 || *number > max) {
+        return std::nullopt;
+    }
+    return number;
+}
+
+bool ReadFolders(TextFileReader& reader, std::string& line, FolderTable& folders) {
+    if (!reader.ReadLine(line)) {
+        return false;
+    }
+    const std::optional<int32_t> count = ParseInRange(line, kFolderSlots);
+    if (!count) {
+        return false;
+    }
+    folders.Clear();
+    for (int32_t slot = 0; slot < *count; ++slot) {
+        if (!reader.ReadLine(line)) {
+            return false;
+        }
+        folders.Append(line);
+    }
+    return true;
+}
+
+// Records run to the end of the file; a number line without its name line is a fault.
+bool ReadRecords(TextFileReader& reader, std::string& line, IndexItems& items) {
+    while (reader.ReadLine(line)) {
+        const std::optional<int32_t> directory = ParseInRange(line, kFolderSlots - 1);
+        if (!directory || !reader.ReadLine(line)) {
+            return false;
+        }
+        items.Add(line, *directory);
+    }
+    return true;
+}
+
+// One std::string serves every line, so a million records cost no allocation per line.
+std::optional<double> ReadLines(TextFileReader& reader, FolderTable& folders, IndexItems& items) {
+    std::string line;
+    if (!reader.ReadLine(line)) {
+        return std::nullopt;
+    }
+    const std::optional<double> date = ParseIndexDate(line);
+    if (!date || !ReadFolders(reader, line, folders) || !ReadRecords(reader, line, items)) {
+        return std::nullopt;
+    }
+    return date;
+}
+
+std::optional<double> ReadFile(const std::string& path, FolderTable& folders, IndexItems& items) {
+    try {
+        TextFileReader reader(path);
+        return ReadLines(reader, folders, items);
+    } catch (const Error&) {
+        return std::nullopt;
+    }
+}
+
+void AppendLine(std::string& text, std::string_view line) {
+    text.append(line).append(kLineEnd);
+}
+
+// The blank stands where a minus sign would.
+void AppendNumberLine(std::string& text, int32_t number) {
+    char digits[16];
+    const auto result = std::to_chars(digits, digits + sizeof digits, number);
+    if (number >= 0) {
+        text.push_back(' ');
+    }
+    AppendLine(text, std::string_view(digits, static_cast<size_t>(result.ptr - digits)));
+}
+
+}  // namespace
+
+std::optional<double> ReadIndexFile(const std::string& path, FolderTable& folders,
+                                    IndexItems& items) {
+    items.ReserveForFile(FileSizeOrZero(path));
+    const std::optional<double> date = ReadFile(path, folders, items);
+    if (!date) {
+        folders.Clear();
+    }
+    return date;
+}
+
+std::string FormatIndexFile(double lastUpdated, const FolderTable& folders,
+                            const IndexItems& items) {
+    std::string text;
+    text.reserve(items.NameBytes() +
+                 static_cast<size_t>(items.Count()) * (kNumberLineBytes + kLineEnd.size()));
+    AppendLine(text, FormatIndexDate(lastUpdated));
+    AppendNumberLine(text, folders.Count());
+    for (int32_t slot = 0; slot < folders.Count(); ++slot) {
+        AppendLine(text, folders.Path(slot));
+    }
+    for (int32_t position = 1; position <= items.Count(); ++position) {
+        AppendNumberLine(text, items.Directory(position));
+        AppendLine(text, items.Filename(position));
+    }
+    return text;
+}
+
+}  // namespace quorin

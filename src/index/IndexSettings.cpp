@@ -1,0 +1,73 @@
+#include "index/IndexSettings.h"
+
+#include <algorithm>
+#include <optional>
+#include <string_view>
+
+#include "index/LenientConversions.h"
+#include "platform/Errors.h"
+#include "platform/Path.h"
+
+namespace quorin {
+namespace {
+
+constexpr std::string_view kSection = "Index";
+
+[[noreturn]] void ThrowMismatch(std::string_view key, std::string_view kind,
+                                const std::string& value) {
+    throw TypeMismatchError("The setting \"" + std::string(key) + "\" in section \"" +
+                            std::string(kSection) + "\" must be " + std::string(kind) + ", not \"" +
+                            value + "\".");
+}
+
+int32_t ReadNumber(const SettingsStore& store, std::string_view key, std::string_view fallback) {
+    const std::string value = store.Get(kSection, key, fallback);
+    const std::optional<int32_t> number = ParseWholeNumber(value);
+    if (!number) {
+        ThrowMismatch(key, "a whole number", value);
+    }
+    return *number;
+}
+
+bool ReadBoolean(const SettingsStore& store, std::string_view key) {
+    const std::string value = store.Get(kSection, key, "-1");
+    const std::optional<bool> flag = ParseLenientBoolean(value);
+    if (!flag) {
+        ThrowMismatch(key, "True, False or a number", value);
+    }
+    return *flag;
+}
+
+void ReadDrives(const SettingsStore& store, DriveTable& drives) {
+    const int32_t count = ReadNumber(store, "DriveCount", "0");
+    drives.slots.fill(std::string());
+    if (count <= 0) {
+        drives.slots[0] = DefaultRoot();
+        drives.count = 1;
+        return;
+    }
+    // The first 21 drives are stored even when there are too many.
+    drives.count = std::min(count, kDriveSlots);
+    for (int32_t slot = 0; slot < drives.count; ++slot) {
+        drives.slots[static_cast<size_t>(slot)] =
+            store.Get(kSection, "Drive" + std::to_string(slot), "");
+    }
+    if (count > kDriveSlots) {
+        throw OutOfRangeError("The setting \"DriveCount\" in section \"Index\" asks for " +
+                              std::to_string(count) + " drives, but at most " +
+                              std::to_string(kDriveSlots) + " can be indexed.");
+    }
+}
+
+}  // namespace
+
+void ReadIndexSettings(const SettingsStore& store, const IndexSettingsFields& fields) {
+    fields.updateInterval = ReadNumber(store, "Interval", "24");
+    fields.filter = store.Get(kSection, "Filter", kDefaultFilter);
+    fields.filterIsInclude = ReadBoolean(store, "FilterIsInclude");
+    fields.includeSystemFolders = ReadBoolean(store, "IncludeSystemFolders");
+    fields.ignoreTempFolders = ReadBoolean(store, "IgnoreTempFolders");
+    ReadDrives(store, fields.drives);
+}
+
+}  // namespace quorin

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "index/DriveTable.h"
+#include "platform/SettingsStore.h"
+
+namespace quorin {
+
+inline constexpr std::string_view kDefaultFilter =
+    ".DOC .XLS .HTM .HTML .TXT .URL .ZIP .EXE .COM .BMP .GIF .JPG .WAV ";
+
+// The engine's own fields that section "Index" is read into.
+struct IndexSettingsFields {
+    std::string& filter;
+    bool& filterIsInclude;
+    int32_t& updateInterval;
+    bool& includeSystemFolders;
+    bool& ignoreTempFolders;
+    DriveTable& drives;
+};
+
+// Reads section "Index" key by key, straight into the fields: when a value is not of its kind
+// (TypeMismatchError) or there are more than 21 drives (OutOfRangeError), the fields read
+// before keep their new values and the later ones their old values.
+void ReadIndexSettings(const SettingsStore& store, const IndexSettingsFields& fields);
+
+}  // namespace quorin

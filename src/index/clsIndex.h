@@ -1,0 +1,90 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "index/DriveTable.h"
+#include "index/FolderTable.h"
+#include "index/IndexItems.h"
+#include "index/IndexProgress.h"
+#include "index/MatchList.h"
+#include "index/clsItem.h"
+#include "index/clsItems.h"
+#include "platform/Clock.h"
+#include "platform/EventPump.h"
+#include "platform/Prompter.h"
+#include "platform/SettingsStore.h"
+
+namespace quorin {
+
+// What the engine works with; it owns none of it.
+struct IndexServices {
+    SettingsStore& settings;
+    const Clock& clock;
+    Prompter& prompter;
+    EventPump& events;
+    std::string programFolder;  // holds "index.txt", "words.txt" and "findfile.avi"
+};
+
+// The index engine: its settings, the folder table and index records of the last build, and the
+// user's word assignments.
+class clsIndex {
+  public:
+    // Reads the settings, "index.txt" and "words.txt"; a bad setting or a bad "words.txt"
+    // throws.
+    explicit clsIndex(IndexServices services);
+
+    std::string Filter;  // upper-case extensions, each followed by a blank: ".DOC .XLS "
+    bool FilterIsInclude = true;
+    double LastUpdated = 0;       // OLE date of the index in memory; 0 when there is none
+    int32_t UpdateInterval = 24;  // hours
+    bool IncludeSystemFolders = true;
+    bool IgnoreTempFolders = true;
+
+    // The collection itself; callers remove words from it and then call SaveWords.
+    clsItems& Words() { return words_; }
+    const clsItems& Words() const { return words_; }
+    std::array<std::string, kDriveSlots> Drives() const { return drives_.slots; }
+    bool Indexing() const { return indexing_; }
+    int32_t FolderCount() const { return folders_.Count(); }
+    int32_t ItemCount() const { return items_->Count(); }
+
+    // Rebuilds the index, yielding to events as it goes. Returns at once while a build runs.
+    void CreateIndex(bool Silent, ProgressWindow& ParentForm);
+    // Takes effect after the folder being walked.
+    void Cancel() { cancelled_ = true; }
+
+    // The records whose names contain Word, without regard to case; nothing when none do.
+    std::optional<MatchList> FindMatch(std::string_view Word,
+                                       SearchProgress* progress = nullptr) const;
+    // Throws OutOfRangeError outside 0..5000.
+    std::string GetPath(int32_t DirectoryID) const;
+    std::optional<int32_t> GetDirectory(std::string_view Path) const;
+
+    // Throws DuplicateKeyError, adding and saving nothing, when the word is assigned already.
+    void AddWord(const clsItem& NewWord);
+    void SaveWords();
+    void LoadWords();
+    void UpdateSettings();
+
+  private:
+    bool WalkDrives(bool Silent, ProgressWindow& ParentForm);  // false when cancelled
+    void SaveIndex(ProgressWindow& ParentForm);
+    void ReportCancel();
+    void ReadIndex();
+    std::string ProgramFile(std::string_view name) const;
+
+    IndexServices services_;
+    DriveTable drives_;
+    FolderTable folders_;
+    std::shared_ptr<IndexItems> items_ = std::make_shared<IndexItems>();
+    clsItems words_;
+    bool indexing_ = false;
+    bool cancelled_ = false;
+};
+
+}  // namespace quorin

@@ -1,0 +1,32 @@
+#include <gtest/gtest.h>
+
+#include "cli/CommandLine.h"
+#include "cli/UsageError.h"
+
+namespace quorin {
+namespace {
+
+using Args = std::vector<std::string>;
+
+TEST(CommandLineTest, OptionsMayStandAnywhereAndAnythingElseIsAUsageError) {
+    const CliRequest find =
+        ParseCommandLine({"--folder", "F", "find", "Budget 98", "--settings", "s.ini"});
+    EXPECT_EQ(find.command, CliCommand::Find);
+    EXPECT_EQ(find.word, "Budget 98");
+    EXPECT_EQ(find.folder, "F");
+    EXPECT_EQ(find.settingsFile, "s.ini");
+
+    const CliRequest words = ParseCommandLine({"words"});
+    EXPECT_EQ(words.command, CliCommand::Words);
+    EXPECT_FALSE(words.folder);
+    EXPECT_FALSE(words.settingsFile);
+    EXPECT_EQ(ParseCommandLine({"find", ""}).word, "");  // an empty word matches everything
+    for (const Args& bad :
+         {Args{}, Args{"index"}, Args{"find"}, Args{"build", "x"}, Args{"find", "a", "b"},
+          Args{"--verbose", "build"}, Args{"build", "--folder"}}) {
+        EXPECT_THROW(ParseCommandLine(bad), UsageError) << ::testing::PrintToString(bad);
+    }
+}
+
+}  // namespace
+}  // namespace quorin

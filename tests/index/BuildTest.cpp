@@ -1,0 +1,286 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+
+#include "index/clsIndex.h"
+#include "platform/Errors.h"
+#include "platform/FileSystem.h"
+#include "platform/MemorySettingsStore.h"
+#include "platform/Path.h"
+#include "platform/TextFile.h"
+#include "support/FileMarks.h"
+#include "support/TempFolder.h"
+
+namespace quorin {
+namespace {
+
+using Paths = std::vector<std::string>;
+
+class FixedClock final : public Clock {
+  public:
+    double Now() const override { return now; }
+    double now = 45000.5;
+};
+
+// The window, message boxes and event loop of a build, logged in the order the engine uses
+// them; onEvents lets a test act where a window's handlers would run.
+class ScriptedUi final : public ProgressWindow, public Prompter, public EventPump {
+  public:
+    void BeginIndexing(const std::string& animation) override {
+        log.push_back("begin " + animation);
+    }
+    void SetCounter(std::string_view text) override { log.emplace_back(text); }
+    void EndIndexing() override { log.push_back("end"); }
+    PromptAnswer Ask(std::string_view title, std::string_view text, PromptButtons buttons,
+                     PromptIcon icon) override {
+        prompts.push_back(std::string(title) + "|" + std::string(text));
+        okInformation = buttons == PromptButtons::Ok && icon == PromptIcon::Information;
+        return PromptAnswer::Ok;
+    }
+    void DoEvents() override {
+        log.push_back("events");
+        if (onEvents) {
+            onEvents();
+        }
+    }
+    Paths log;
+    Paths prompts;
+    bool okInformation = false;
+    std::function<void()> onEvents;
+};
+
+class EngineTest : public ::testing::Test {
+  protected:
+    // Roots relative to the tree, every file type indexed.
+    void UseRoots(const Paths& roots) {
+        settings.Save("Index", "DriveCount", std::to_string(roots.size()));
+        for (size_t i = 0; i < roots.size(); ++i) {
+            settings.Save("Index", "Drive" + std::to_string(i), tree.MakeFolder(roots[i]));
+        }
+        settings.Save("Index", "Filter", "");
+        settings.Save("Index", "FilterIsInclude", "False");
+    }
+
+    std::unique_ptr<clsIndex> MakeIndex(const std::string& programFolder = {}) {
+        return std::make_unique<clsIndex>(IndexServices{
+            settings, clock, ui, ui, programFolder.empty() ? program.Path() : programFolder});
+    }
+
+    // Full paths of the matches, in index order.
+    static Paths Matches(const clsIndex& index, std::string_view word) {
+        Paths paths;
+        const std::optional<MatchList> matches = index.FindMatch(word);
+        for (int32_t i = 1; matches && i <= matches->Count(); ++i) {
+            const clsItem item = matches->Item(i);
+            paths.push_back(JoinPath(index.GetPath(item.Directory), item.Filename));
+        }
+        return paths;
+    }
+
+    std::string TreePath(std::string_view relative) const {
+        std::string path = JoinPath(tree.Path(), relative);
+        std::replace(path.begin(), path.end(), '/', kPathSeparator);
+        return path;
+    }
+
+    std::string ProgramFile(std::string_view name) const { return JoinPath(program.Path(), name); }
+
+    TempFolder program;
+    TempFolder tree;
+    MemorySettingsStore settings;
+    FixedClock clock;
+    ScriptedUi ui;
+};
+
+TEST_F(EngineTest, WalkIsBreadthFirstAcrossRootsInDriveOrder) {
+    for (const char* file :
+         {"r1/f1.txt", "r1/a/f3.txt", "r1/a/deep/f5.txt", "r2/f2.txt", "r2/b/f4.txt"}) {
+        tree.WriteFile(file, "");
+    }
+    UseRoots({"r1", "r2"});
+    auto index = MakeIndex();
+    index->CreateIndex(true, ui);
+    EXPECT_EQ(index->FolderCount(), 5);
+    EXPECT_EQ(index->GetPath(3), TreePath("r2/b"));
+    EXPECT_EQ(Matches(*index, ""),
+              (Paths{TreePath("r1/f1.txt"), TreePath("r2/f2.txt"), TreePath("r1/a/f3.txt"),
+                     TreePath("r2/b/f4.txt"), TreePath("r1/a/deep/f5.txt")}));
+    EXPECT_EQ(Matches(*index, "F4.TXT"), Matches(*index, "f4.txt"));
+    EXPECT_FALSE(index->FindMatch("nothing like it"));
+}
+
+TEST_F(EngineTest, TempPrefixSkipsFoldersOnlyWhenAsked) {
+    tree.WriteFile("r/Templates/t1.txt", "");
+    tree.WriteFile("r/My Temp/t2.txt", "");
+    tree.WriteFile("r/temp.txt", "");  // files are never skipped by name
+    UseRoots({"r"});
+    auto index = MakeIndex();
+    index->CreateIndex(true, ui);
+    EXPECT_EQ(Matches(*index, "t"), (Paths{TreePath("r/temp.txt"), TreePath("r/My Temp/t2.txt")}));
+
+    settings.Save("Index", "IgnoreTempFolders", "0");
+    index->UpdateSettings();
+    index->CreateIndex(true, ui);
+    EXPECT_EQ(Matches(*index, "t1").size(), 1u);
+}
+
+TEST_F(EngineTest, HiddenEntriesAreNeverIndexedAndSystemOnesOnlyWhenAsked) {
+    tree.WriteFile("r/shown.txt", "");
+    const std::string hiddenFile = tree.WriteFile("r/hid.txt", "");
+    const std::string hiddenFolder = tree.MakeFolder("r/hiddir");
+    tree.WriteFile("r/hiddir/inner.txt", "");
+    if (!MarkHidden(hiddenFile) || !MarkHidden(hiddenFolder)) {  // POSIX hides by name
+        std::filesystem::rename(FsPath(hiddenFile), FsPath(TreePath("r/.hid.txt")));
+        std::filesystem::rename(FsPath(hiddenFolder), FsPath(TreePath("r/.hiddir")));
+    }
+    const bool systemAttribute = MarkSystem(tree.WriteFile("r/sys.txt", ""));
+    UseRoots({"r"});
+    auto index = MakeIndex();
+    index->CreateIndex(true, ui);
+    EXPECT_EQ(Matches(*index, "hid"), Paths{});
+    EXPECT_EQ(Matches(*index, "inner"), Paths{});
+    EXPECT_EQ(index->FolderCount(), 1);
+    EXPECT_EQ(Matches(*index, "sys").size(), 1u);
+
+    settings.Save("Index", "IncludeSystemFolders", "False");
+    index->UpdateSettings();
+    index->CreateIndex(true, ui);
+    EXPECT_EQ(Matches(*index, "sys").empty(), systemAttribute);
+    EXPECT_EQ(Matches(*index, "shown").size(), 1u);
+}
+
+TEST_F(EngineTest, FolderTableCapLeavesOutTheSurplusAndItsFiles) {
+    // 21 roots naming one folder reach the cap without creating thousands of folders.
+    for (int i = 0; i < 240; ++i) {
+        tree.WriteFile("r/d" + std::to_string(i) + "/f.txt", "");
+    }
+    UseRoots(Paths(kDriveSlots, "r"));
+    auto index = MakeIndex();
+    index->CreateIndex(false, ui);
+    // One file in each stored subfolder; the 60 left out are not walked.
+    EXPECT_EQ(index->FolderCount(), kFolderSlots);
+    EXPECT_EQ(index->ItemCount(), kFolderSlots - kDriveSlots);
+
+    const auto reloaded = MakeIndex();
+    EXPECT_EQ(reloaded->FolderCount(), kFolderSlots);
+    EXPECT_EQ(reloaded->ItemCount(), kFolderSlots - kDriveSlots);
+    EXPECT_EQ(reloaded->LastUpdated, clock.now);
+}
+
+TEST_F(EngineTest, CounterShowsEveryFolderWhenSilentAndEveryFifthOtherwise) {
+    for (int i = 0; i < 11; ++i) {
+        tree.MakeFolder("r/d" + std::to_string(i));
+    }
+    UseRoots({"r"});
+    auto index = MakeIndex();
+    index->CreateIndex(false, ui);
+    EXPECT_EQ(ui.log, (Paths{"begin " + ProgramFile("findfile.avi"), "0", "events", "5", "events",
+                             "10", "events", "Saving...", "events", "end"}));
+
+    ui.log.clear();
+    index->CreateIndex(true, ui);
+    ASSERT_EQ(ui.log.size(), 28u);
+    EXPECT_EQ(ui.log[1] + ui.log[3] + ui.log[23], "0111");
+}
+
+TEST_F(EngineTest, CancelKeepsThePreviousIndexAndItsFile) {
+    tree.WriteFile("r/old.txt", "");
+    UseRoots({"r"});
+    auto index = MakeIndex();
+    ui.onEvents = [&] { index->Cancel(); };
+    index->CreateIndex(false, ui);  // the first build: no index to fall back on
+    EXPECT_TRUE(ui.prompts.at(0).ends_with("the index created at ."));
+    EXPECT_FALSE(FileExists(ProgramFile("index.txt")));
+    EXPECT_EQ(index->LastUpdated, 0);
+
+    ui.onEvents = nullptr;
+    index->CreateIndex(true, ui);
+    const std::string before = ReadWholeFile(ProgramFile("index.txt"));
+    const auto oldMatches = index->FindMatch("old");
+    std::filesystem::remove(FsPath(TreePath("r/old.txt")));
+    tree.WriteFile("r/new.txt", "");
+    clock.now += 1;
+    ui.onEvents = [&] { index->Cancel(); };
+    index->CreateIndex(true, ui);
+
+    EXPECT_EQ(ui.prompts.at(1),
+              "Update Index Cancelled|Indexing has been canceled. Quorin will continue to use the "
+              "index created at " +
+                  FormatLocalDateTime(45000.5) + ".");
+    EXPECT_TRUE(ui.okInformation);
+    EXPECT_EQ(ReadWholeFile(ProgramFile("index.txt")), before);
+    EXPECT_EQ(index->LastUpdated, 45000.5);
+    EXPECT_EQ(Matches(*index, ".txt"), (Paths{TreePath("r/old.txt")}));
+    EXPECT_EQ(oldMatches->Item(1).Filename, "old.txt");  // an open list survives any rebuild
+    EXPECT_FALSE(index->Indexing());
+    EXPECT_EQ(ui.log.back(), "end");
+}
+
+TEST_F(EngineTest, SecondBuildDuringABuildReturnsAtOnce) {
+    UseRoots({"r"});
+    auto index = MakeIndex();
+    ScriptedUi other;
+    bool indexingSeen = false;
+    ui.onEvents = [&] {
+        indexingSeen = index->Indexing();
+        index->CreateIndex(true, other);
+    };
+    index->CreateIndex(true, ui);
+    EXPECT_TRUE(indexingSeen);
+    EXPECT_TRUE(other.log.empty());
+    EXPECT_EQ(ui.log.back(), "end");
+}
+
+TEST_F(EngineTest, FailedSaveEndsTheBuildSoTheNextOneRuns) {
+    UseRoots({"r"});
+    auto index = MakeIndex(TreePath("no such folder"));
+    EXPECT_THROW(index->CreateIndex(true, ui), FileError);
+    EXPECT_FALSE(index->Indexing());
+    EXPECT_EQ(ui.log.back(), "end");
+}
+
+TEST_F(EngineTest, WordsRoundTripAndFollowTheirFolderAcrossBuilds) {
+    tree.WriteFile("r/sub/ Budget, 98.xls", "");
+    UseRoots({"r"});
+    auto index = MakeIndex();
+    index->CreateIndex(true, ui);
+    const clsItem budget = index->FindMatch("budget")->Item(1);
+    index->AddWord(clsItem{"Budget", budget.Filename, budget.Directory, ""});
+    index->AddWord(clsItem{"ünï", "top.txt", 0, ""});
+    EXPECT_THROW(index->AddWord(clsItem{"BUDGET", "top.txt", 0, ""}), DuplicateKeyError);
+    EXPECT_EQ(index->Words().Count(), 2);
+
+    // A new first root moves every folder to another slot.
+    settings.Save("Index", "DriveCount", "2");
+    settings.Save("Index", "Drive0", tree.MakeFolder("r0"));
+    settings.Save("Index", "Drive1", TreePath("r"));
+    index->UpdateSettings();
+    index->CreateIndex(true, ui);
+    const clsItem* moved = index->Words().Item("budget");
+    EXPECT_EQ(JoinPath(index->GetPath(moved->Directory), moved->Filename),
+              TreePath("r/sub/ Budget, 98.xls"));
+
+    const auto reloaded = MakeIndex();
+    ASSERT_EQ(reloaded->Words().Count(), 2);
+    EXPECT_EQ(reloaded->Words().Item(2)->Word, "ünï");
+    EXPECT_EQ(reloaded->Words().Item(2)->Directory, 1);
+}
+
+TEST_F(EngineTest, WordOfAVanishedFolderFallsBackToTheFirstRoot) {
+    UseRoots({"r"});
+    program.WriteFile("words.txt", "gone\r\n" + TreePath("r/gone") + "\r\nold.txt\r\n");
+    auto index = MakeIndex();
+    index->CreateIndex(true, ui);
+    EXPECT_EQ(index->Words().Item("GONE")->Directory, 0);
+    index->SaveWords();
+    EXPECT_EQ(ReadWholeFile(ProgramFile("words.txt")),
+              "gone\r\n" + TreePath("r") + "\r\nold.txt\r\n");
+
+    program.WriteFile("words.txt", "Budget\r\nC:\r\na\r\nbudget\r\nC:\r\nb\r\n");
+    EXPECT_THROW(MakeIndex(), DuplicateKeyError);
+}
+
+}  // namespace
+}  // namespace quorin

@@ -1,0 +1,99 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "index/FolderTable.h"
+#include "index/IndexItems.h"
+#include "index/SubstringSearcher.h"
+#include "index/clsItems.h"
+#include "platform/Errors.h"
+
+namespace quorin {
+namespace {
+
+TEST(clsItemsTest, PositionsFromOneAndCaseFreeKeys) {
+    clsItems words;
+    words.Add("Budget 98.xls", 3, "Budget", "Budget");
+    words.Add("a.txt", 0, "", "");
+    words.Add("a.txt", 0, "", "");  // unkeyed records may repeat
+    words.Add("c.txt", 0, "zeta", "zeta");
+    EXPECT_EQ(words.Item(1)->UCFilename, "BUDGET 98.XLS");
+    EXPECT_EQ(words.Item(0), nullptr);
+    EXPECT_EQ(words.Item(5), nullptr);
+    EXPECT_EQ(words.Item("bUDGET")->Directory, 3);
+    EXPECT_EQ(words.Item("missing"), nullptr);
+    EXPECT_THROW(words.Add("d.txt", 0, "budget", "budget"), DuplicateKeyError);
+    EXPECT_EQ(words.Count(), 4);
+
+    words.Remove("BUDGET");
+    words.Remove(2);
+    ASSERT_EQ(words.Count(), 2);
+    EXPECT_EQ(words.Item(2)->Word, "zeta");
+    EXPECT_THROW(words.Remove("budget"), OutOfRangeError);
+    EXPECT_THROW(words.Remove(3), OutOfRangeError);
+    words.Add("e.txt", 0, "budget", "budget");  // its key is free again
+}
+
+class RecordingSearchProgress final : public SearchProgress {
+  public:
+    void Show(int maximum) override { log.push_back("show " + std::to_string(maximum)); }
+    void SetValue(int value) override { log.push_back(std::to_string(value)); }
+    void Hide() override { log.push_back("hide"); }
+    std::vector<std::string> log;
+};
+
+TEST(IndexItemsTest, FindGivesEachMatchingRecordOnceInIndexOrder) {
+    IndexItems items;
+    for (int i = 0; i < 250; ++i) {
+        items.Add(i % 50 == 7 ? "aXaXa " + std::to_string(i) + ".doc" : "other.txt", i);
+    }
+    items.Add("Résumé, draft.doc", 5000);
+    RecordingSearchProgress progress;
+    EXPECT_EQ(items.Find("XA", &progress), (std::vector<int32_t>{8, 58, 108, 158, 208}));
+    EXPECT_EQ(progress.log, (std::vector<std::string>{"show 251", "100", "200", "hide"}));
+    EXPECT_EQ(items.Find("", nullptr).size(), 251u);
+    EXPECT_EQ(items.Find("SUMÉ, D", nullptr), (std::vector<int32_t>{251}));
+    EXPECT_TRUE(items.Find("TXT\nAXA", nullptr).empty());
+    EXPECT_TRUE(items.Find("TXTA", nullptr).empty());  // never across two names
+
+    const clsItem last = items.Item(251);
+    EXPECT_EQ(last.Filename + "|" + last.UCFilename, "Résumé, draft.doc|RÉSUMÉ, DRAFT.DOC");
+    EXPECT_EQ(last.Directory, 5000);
+    EXPECT_THROW(items.Item(252), OutOfRangeError);
+}
+
+TEST(SubstringSearcherTest, AgreesWithStdFindOnRandomTexts) {
+    std::mt19937 random(7);
+    auto randomText = [&](size_t maxLength) {
+        std::string text(random() % (maxLength + 1), ' ');
+        for (char& c : text) {
+            c = "ABC\n"[random() % 4];
+        }
+        return text;
+    };
+    for (int round = 0; round < 20000; ++round) {
+        const std::string needle = randomText(5);
+        const std::string text = randomText(40);
+        ASSERT_EQ(SubstringSearcher(needle).Find(text), text.find(needle)) << needle << "|" << text;
+    }
+}
+
+TEST(FolderTableTest, FindIsCaseFreeAmongUsedSlotsAndTheBoundIsFixed) {
+    FolderTable folders;
+    for (const char* path : {"C:", "C:\\WINDOWS", "D:\\Old"}) {
+        folders.Append(path);
+    }
+    EXPECT_EQ(folders.Find("c:\\windows"), 1);
+    folders.Clear();
+    folders.Append("E:");
+    EXPECT_EQ(folders.Find("D:\\Old"), std::nullopt);  // beyond the count
+    EXPECT_EQ(folders.Path(2), "D:\\Old");             // but still held
+    EXPECT_THROW(folders.Path(kFolderSlots), OutOfRangeError);
+    EXPECT_THROW(folders.Path(-1), OutOfRangeError);
+    while (folders.Append("X")) {
+    }
+    EXPECT_EQ(folders.Count(), kFolderSlots);
+}
+
+}  // namespace
+}  // namespace quorin
