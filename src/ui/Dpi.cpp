@@ -1,0 +1,61 @@
+#include "ui/Dpi.h"
+
+#include <cstdint>
+
+#include "platform/WinHandles.h"
+
+namespace quorin {
+
+namespace {
+
+int RoundedQuotient(std::int64_t numerator, std::int64_t denominator) {
+    const std::int64_t half = denominator / 2;
+    const std::int64_t quotient =
+        numerator >= 0 ? (numerator + half) / denominator : -((-numerator + half) / denominator);
+    return static_cast<int>(quotient);
+}
+
+using GetDpiForWindowFunction = UINT(WINAPI*)(HWND);
+
+// Looked up at run time: the function appeared in Windows 10 version 1607.
+GetDpiForWindowFunction FindGetDpiForWindow() {
+    const FARPROC found = GetProcAddress(GetModuleHandleW(L"user32.dll"), "GetDpiForWindow");
+    return reinterpret_cast<GetDpiForWindowFunction>(reinterpret_cast<void (*)()>(found));
+}
+
+}  // namespace
+
+int TwipsToPixels(int twips, int dpi) {
+    return RoundedQuotient(std::int64_t{twips} * dpi, kTwipsPerInch);
+}
+
+int PixelsToTwips(int pixels, int dpi) {
+    return RoundedQuotient(std::int64_t{pixels} * kTwipsPerInch, dpi);
+}
+
+int ScreenDpi() {
+    const WindowDC screen(nullptr);
+    return GetDeviceCaps(screen.get(), LOGPIXELSY);
+}
+
+int WindowDpi(HWND window) {
+    static const GetDpiForWindowFunction getDpiForWindow = FindGetDpiForWindow();
+    if (getDpiForWindow != nullptr && window != nullptr) {
+        if (const UINT dpi = getDpiForWindow(window); dpi != 0) {
+            return static_cast<int>(dpi);
+        }
+    }
+    return ScreenDpi();
+}
+
+LOGFONTW MessageFont(int dpi) {
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof(metrics);
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
+    LOGFONTW font = metrics.lfMessageFont;
+    // The system reports the font at the screen's DPI.
+    font.lfHeight = MulDiv(font.lfHeight, dpi, ScreenDpi());
+    return font;
+}
+
+}  // namespace quorin

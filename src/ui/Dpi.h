@@ -1,0 +1,26 @@
+#pragma once
+
+#include <windows.h>
+
+namespace quorin {
+
+// The program keeps positions and sizes in twips and converts them at the window's DPI.
+inline constexpr int kTwipsPerInch = 1440;
+
+// Both round half away from zero, so that negative positions (monitors left of or above the
+// primary one) round like positive ones. Pixels to twips and back gives the same pixels at any
+// DPI up to 1440.
+int TwipsToPixels(int twips, int dpi);
+int PixelsToTwips(int pixels, int dpi);
+
+// The DPI of the screen (the system DPI).
+int ScreenDpi();
+
+// The DPI a window is drawn at: GetDpiForWindow where the system has it, otherwise (or for a
+// window it does not know) the screen's.
+int WindowDpi(HWND window);
+
+// The system's message font (the usual font of dialogs and controls) sized for a DPI.
+LOGFONTW MessageFont(int dpi);
+
+}  // namespace quorin

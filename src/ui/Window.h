@@ -1,0 +1,84 @@
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <string_view>
+
+#include "ui/WindowErrors.h"
+
+namespace quorin {
+
+// Where and how a window is made; positions and sizes in pixels.
+struct WindowSpec {
+    std::string_view title;
+    DWORD style = WS_OVERLAPPEDWINDOW;
+    DWORD exStyle = 0;
+    int x = CW_USEDEFAULT;
+    int y = CW_USEDEFAULT;
+    int width = CW_USEDEFAULT;
+    int height = CW_USEDEFAULT;
+    HWND parent = nullptr;
+    int id = 0;  // a child window's control id
+};
+
+// Base of every window of the program. The window procedure binds the object to its window on
+// WM_NCCREATE, hands every message to HandleMessage and unbinds on WM_NCDESTROY; nothing a
+// handler throws leaves it (the error goes to ReportWindowError).
+//
+// Two kinds of classes: windows owned by a C++ object (Create; the object's destructor
+// destroys the window), and windows that make their own object (SelfOwnedProcedure), which can
+// be created by class name alone, as custom controls and dialog templates do.
+class Window {
+  public:
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+    virtual ~Window();
+
+    HWND hwnd() const { return hwnd_; }
+
+    static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+
+    template <typename T>
+    static LRESULT CALLBACK SelfOwnedProcedure(HWND hwnd, UINT message, WPARAM wParam,
+                                               LPARAM lParam) {
+        if (message == WM_NCCREATE) {
+            const bool adopted = CallGuarded(
+                [hwnd] {
+                    Adopt(hwnd, std::make_unique<T>());
+                    return true;
+                },
+                [] { return false; });
+            if (!adopted) {
+                return FALSE;
+            }
+        }
+        return Route(hwnd, message, wParam, lParam);
+    }
+
+  protected:
+    Window() = default;
+
+    // Creates this object's window of a class registered with Window::Procedure.
+    // Throws Error when the window cannot be created.
+    void Create(const wchar_t* className, const WindowSpec& spec);
+
+    // CreateWindowExW with these values; `param` reaches WM_NCCREATE. Throws Error on failure.
+    static HWND CreateHandle(const wchar_t* className, const WindowSpec& spec, void* param);
+
+    // The object bound to a window. Only for windows whose class uses one of the procedures
+    // above: any other window keeps something else in its user data.
+    static Window* FromHandle(HWND hwnd);
+
+    virtual LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+  private:
+    static void Bind(HWND hwnd, Window* window);
+    static void Adopt(HWND hwnd, std::unique_ptr<Window> window);
+    static LRESULT Route(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+
+    HWND hwnd_ = nullptr;
+    bool ownedByWindow_ = false;
+};
+
+}  // namespace quorin

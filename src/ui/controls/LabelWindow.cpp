@@ -1,0 +1,217 @@
+#include "ui/controls/LabelWindow.h"
+
+#include <windowsx.h>
+
+#include "platform/Text.h"
+#include "platform/WinHandles.h"
+#include "ui/Dpi.h"
+#include "ui/PaintDc.h"
+
+namespace quorin {
+
+namespace {
+
+// One line, "&" shown as it is.
+constexpr UINT kLineFormat = DT_SINGLELINE | DT_NOPREFIX;
+
+LOGFONTW FontDescription(HFONT font, HWND window) {
+    LOGFONTW description{};
+    if (font == nullptr || GetObjectW(font, sizeof(description), &description) == 0) {
+        description = MessageFont(WindowDpi(window));
+    }
+    return description;
+}
+
+}  // namespace
+
+std::string LabelWindow::Caption() const {
+    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(hwnd())) + 1, L'\0');
+    text.resize(
+        static_cast<size_t>(GetWindowTextW(hwnd(), text.data(), static_cast<int>(text.size()))));
+    return Narrow(text);
+}
+
+void LabelWindow::SetCaption(std::string_view caption) {
+    SetWindowTextW(hwnd(), Widen(caption).c_str());
+}
+
+bool LabelWindow::Enabled() const {
+    return IsWindowEnabled(hwnd()) != FALSE;
+}
+
+void LabelWindow::SetEnabled(bool enabled) {
+    EnableWindow(hwnd(), enabled ? TRUE : FALSE);
+}
+
+HWND LabelWindow::CreateLabel(ATOM atom, HWND parent, int id, std::string_view caption, int x,
+                              int y) {
+    return CreateHandle(MAKEINTATOM(atom),
+                        {.title = caption,
+                         .style = WS_CHILD | WS_VISIBLE,
+                         .x = x,
+                         .y = y,
+                         .width = 0,
+                         .height = 0,
+                         .parent = parent,
+                         .id = id},
+                        nullptr);
+}
+
+SIZE LabelWindow::MeasureText(std::string_view text, bool bold) {
+    const WindowDC dc(hwnd());
+    const SelectedObject font(dc.get(), fonts_.Get(bold, false));
+    const std::wstring wide = Widen(text);
+    RECT box{};
+    DrawTextW(dc.get(), wide.c_str(), static_cast<int>(wide.size()), &box,
+              kLineFormat | DT_CALCRECT);
+    return {box.right - box.left, box.bottom - box.top};
+}
+
+void LabelWindow::ResizeTo(SIZE size) {
+    SetWindowPos(hwnd(), nullptr, 0, 0, size.cx, size.cy,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void LabelWindow::Repaint() {
+    InvalidateRect(hwnd(), nullptr, FALSE);
+}
+
+LRESULT LabelWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_CREATE:
+            OnCreate(*reinterpret_cast<const CREATESTRUCTW*>(lParam));
+            return 0;
+        case WM_SIZE:
+            UserControl_Resize();
+            return 0;
+        case WM_SETFONT:
+            OnSetFont(reinterpret_cast<HFONT>(wParam));
+            return 0;
+        case WM_GETFONT:
+            return reinterpret_cast<LRESULT>(font_);
+        case WM_SETTEXT: {
+            const LRESULT result = Window::HandleMessage(message, wParam, lParam);
+            CaptionChanged();
+            Repaint();
+            return result;
+        }
+        case WM_ENABLE:
+            if (wParam == FALSE) {
+                OnDisabled();
+            }
+            Repaint();
+            return 0;
+        case WM_MOUSEMOVE:
+        case WM_LBUTTONDOWN:
+        case WM_RBUTTONDOWN:
+        case WM_MBUTTONDOWN:
+        case WM_LBUTTONUP:
+        case WM_RBUTTONUP:
+        case WM_MBUTTONUP:
+            OnMouse(message, lParam);
+            return 0;
+        case WM_CAPTURECHANGED:
+            OnCaptureChanged(reinterpret_cast<HWND>(lParam));
+            return 0;
+        case WM_ERASEBKGND:
+            return 1;  // WM_PAINT covers every pixel
+        case WM_PAINT: {
+            const PaintDc dc(hwnd());
+            Paint(dc.get());
+            return 0;
+        }
+        case WM_PRINTCLIENT:
+            Paint(reinterpret_cast<HDC>(wParam));
+            return 0;
+        default:
+            return Window::HandleMessage(message, wParam, lParam);
+    }
+}
+
+void LabelWindow::OnCreate(const CREATESTRUCTW& create) {
+    fonts_.Reset(FontDescription(nullptr, hwnd()));
+    if (create.lpszName == nullptr) {
+        SetCaption(kDefaultCaption);
+    }
+    UserControl_Resize();
+}
+
+void LabelWindow::OnSetFont(HFONT font) {
+    font_ = font;
+    fonts_.Reset(FontDescription(font, hwnd()));
+    UserControl_Resize();
+    Repaint();
+}
+
+void LabelWindow::OnMouse(UINT message, LPARAM lParam) {
+    if (!Enabled()) {
+        return;
+    }
+    RECT client{};
+    GetClientRect(hwnd(), &client);
+    const bool inside =
+        Inside(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam), client.right, client.bottom);
+    const LabelModel before = model_;
+    bool click = false;
+    if (message == WM_MOUSEMOVE) {
+        model_.MouseMove(inside);
+    } else if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN ||
+               message == WM_MBUTTONDOWN) {
+        model_.MouseDown(inside);
+    } else {
+        click = model_.MouseUp(inside);
+    }
+    if (click) {
+        Clicked();
+    }
+    if (model_.Captured() && !before.Captured()) {
+        SetCapture(hwnd());
+    } else if (!model_.Captured() && before.Captured()) {
+        ReleaseCapture();
+    }
+    if (model_.Underlined() != before.Underlined()) {
+        Repaint();
+    }
+    if (click) {
+        NotifyClick();  // last: the parent may destroy this label
+    }
+}
+
+void LabelWindow::OnCaptureChanged(HWND newOwner) {
+    // Our own ReleaseCapture comes here with the model already idle; only a capture taken away
+    // by another window (a menu, a message box) needs the underline and the press dropped.
+    if (newOwner != hwnd() && model_.Captured()) {
+        model_.Reset();
+        Repaint();
+    }
+}
+
+void LabelWindow::OnDisabled() {
+    const bool captured = model_.Captured();
+    model_.Reset();
+    if (captured) {
+        ReleaseCapture();
+    }
+}
+
+void LabelWindow::NotifyClick() {
+    SendMessageW(GetParent(hwnd()), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(hwnd()), kLabelClick),
+                 reinterpret_cast<LPARAM>(hwnd()));
+}
+
+void LabelWindow::Paint(HDC dc) {
+    const LabelLook look = Look();
+    RECT area{};
+    GetClientRect(hwnd(), &area);
+    SetBkColor(dc, ResolveColor(look.back));
+    ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &area, nullptr, 0, nullptr);
+
+    const SelectedObject font(dc, fonts_.Get(look.bold, model_.Underlined()));
+    SetTextColor(dc, Enabled() ? ResolveColor(look.text) : GetSysColor(COLOR_GRAYTEXT));
+    SetBkMode(dc, TRANSPARENT);
+    const std::wstring text = Widen(Caption());
+    DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &area,
+              kLineFormat | DT_CENTER | DT_VCENTER);
+}
+
+}  // namespace quorin

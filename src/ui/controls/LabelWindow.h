@@ -1,0 +1,89 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+#include "ui/Window.h"
+#include "ui/controls/LabelFonts.h"
+#include "ui/controls/LabelModel.h"
+#include "ui/controls/OleColor.h"
+
+namespace quorin {
+
+// A label's Click reaches its parent as WM_COMMAND: LOWORD(wParam) is the control's id,
+// HIWORD(wParam) is kLabelClick and lParam is the control's window. kLabelClick is 0, the value
+// of BN_CLICKED, so that dialog code can treat a label like a button. The parent's handler may
+// destroy the label.
+inline constexpr WORD kLabelClick = 0;
+
+// The caption of a label created without one (a null window name).
+inline constexpr std::string_view kDefaultCaption = "LinkLabel";
+
+// What a label paints with; the concrete control chooses.
+struct LabelLook {
+    OleColor text;
+    OleColor back;
+    bool bold;
+};
+
+// What the tab and link labels share. The caption is the window text (WM_SETTEXT and
+// WM_GETTEXT work as for any control). Enabled is the window's enabled state: a disabled label
+// draws its caption in the grey text colour and ignores the mouse. The font is the one the
+// parent sends with WM_SETFONT, or else the system message font. Any mouse button presses.
+class LabelWindow : public Window {
+  public:
+    std::string Caption() const;
+    void SetCaption(std::string_view caption);
+    bool Enabled() const;
+    void SetEnabled(bool enabled);
+
+  protected:
+    LabelWindow() = default;
+
+    // A visible child label of the registered class `atom` at (x, y) in pixels; its size comes
+    // from UserControl_Resize. Throws Error on failure.
+    static HWND CreateLabel(ATOM atom, HWND parent, int id, std::string_view caption, int x, int y);
+
+    // The label behind a window of the class `atom`, or nullptr for any other window.
+    template <typename T>
+    static T* Bound(HWND window, ATOM atom) {
+        if (window == nullptr || GetClassLongPtrW(window, GCW_ATOM) != atom) {
+            return nullptr;
+        }
+        return static_cast<T*>(FromHandle(window));
+    }
+
+    virtual LabelLook Look() const = 0;
+    virtual bool Inside(int x, int y, int width, int height) const = 0;
+    // Sizes the control from its caption: whenever it is sized, at creation and when its font
+    // changes.
+    virtual void UserControl_Resize() = 0;
+    virtual void CaptionChanged() {}
+    // A release completed a press; runs before the parent is told.
+    virtual void Clicked() {}
+
+    SIZE MeasureText(std::string_view text, bool bold);
+    void ResizeTo(SIZE size);
+    void Repaint();
+    LabelModel& Model() { return model_; }
+    const LabelModel& Model() const { return model_; }
+
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  private:
+    void OnCreate(const CREATESTRUCTW& create);
+    void OnSetFont(HFONT font);
+    void OnMouse(UINT message, LPARAM lParam);
+    void OnCaptureChanged(HWND newOwner);
+    void OnDisabled();
+    void NotifyClick();
+    void Paint(HDC dc);
+
+    HFONT font_ = nullptr;  // the parent's; not ours to delete
+    LabelFonts fonts_;
+    LabelModel model_;
+};
+
+}  // namespace quorin

@@ -1,0 +1,98 @@
+#include <gtest/gtest.h>
+
+#include "TestWindows.h"
+#include "ui/controls/ctlLinkLabel.h"
+
+namespace quorin {
+namespace {
+
+using test::ClientSize;
+using test::SendMouse;
+using test::Shows;
+
+constexpr COLORREF kLinkBlue = RGB(0, 0, 192);
+
+class LinkLabelTest : public ::testing::Test {
+  protected:
+    void Move(int x, int y) { SendMouse(link.hwnd(), WM_MOUSEMOVE, x, y); }
+    bool Underlined() const { return test::Ink(link.hwnd()) > plainInk; }
+    void Press(int x, int y) { SendMouse(link.hwnd(), WM_LBUTTONDOWN, x, y); }
+    void Release(int x, int y) { SendMouse(link.hwnd(), WM_LBUTTONUP, x, y); }
+
+    test::TestParent parent;
+    ctlLinkLabel& link = ctlLinkLabel::Create(parent.hwnd(), 7, "General Options", 10, 30);
+    const SIZE size = ClientSize(link.hwnd());
+    const int plainInk = test::Ink(link.hwnd());
+};
+
+TEST_F(LinkLabelTest, TheFirstRowAndColumnAndTheFarEdgesAreOutside) {
+    for (const POINT outside : {POINT{0, size.cy / 2}, POINT{size.cx / 2, 0},
+                                POINT{size.cx, size.cy / 2}, POINT{size.cx / 2, size.cy}}) {
+        Move(size.cx - 1, size.cy - 1);
+        EXPECT_TRUE(Underlined());
+        EXPECT_EQ(GetCapture(), link.hwnd());
+        Move(outside.x, outside.y);
+        EXPECT_FALSE(Underlined()) << outside.x << "," << outside.y;
+        EXPECT_EQ(GetCapture(), nullptr);
+    }
+}
+
+TEST_F(LinkLabelTest, PressDragOutAndReleaseStillClicks) {
+    Press(2, 2);
+    Move(size.cx + 30, 2);
+    EXPECT_FALSE(Underlined());
+    EXPECT_EQ(GetCapture(), link.hwnd());
+
+    Release(size.cx + 30, 2);
+    ASSERT_EQ(parent.commands.size(), 1u);
+    EXPECT_EQ(parent.commands[0].id, 7);
+    EXPECT_EQ(GetCapture(), nullptr);
+}
+
+TEST_F(LinkLabelTest, ReleaseInsideClicksOnlyAfterAPressAndEndsTheHover) {
+    Release(2, 2);
+    EXPECT_TRUE(parent.commands.empty());
+    EXPECT_TRUE(Underlined());  // a release without a press is a move
+
+    Press(2, 2);
+    Release(2, 2);
+    EXPECT_EQ(parent.commands.size(), 1u);
+    EXPECT_FALSE(Underlined());
+    EXPECT_EQ(GetCapture(), nullptr);
+}
+
+TEST_F(LinkLabelTest, BlueCaptionOnBackColorOrGreyedWhenDisabled) {
+    EXPECT_TRUE(Shows(link.hwnd(), kLinkBlue));
+    EXPECT_EQ(link.BackColor(), 0x8000000Fu);
+    EXPECT_EQ(test::Render(link.hwnd())[0], GetSysColor(COLOR_BTNFACE));
+    link.SetBackColor(RGB(255, 255, 224));
+    EXPECT_EQ(test::Render(link.hwnd())[0], RGB(255, 255, 224));
+
+    link.SetEnabled(false);
+    EXPECT_FALSE(Shows(link.hwnd(), kLinkBlue));
+    EXPECT_TRUE(Shows(link.hwnd(), GetSysColor(COLOR_GRAYTEXT)));
+}
+
+TEST_F(LinkLabelTest, DisabledLinkNeitherUnderlinesNorClicks) {
+    link.SetEnabled(false);
+    Move(2, 2);
+    EXPECT_FALSE(Underlined());
+    Press(2, 2);
+    Release(2, 2);
+    EXPECT_TRUE(parent.commands.empty());
+    EXPECT_EQ(GetCapture(), nullptr);
+}
+
+TEST_F(LinkLabelTest, SizeFollowsTheCaptionAtOnce) {
+    link.SetCaption("Change file types that are indexed");
+    EXPECT_GT(ClientSize(link.hwnd()).cx, size.cx);
+    EXPECT_EQ(ClientSize(link.hwnd()).cy, size.cy);
+    link.SetCaption("Help");
+    const SIZE shorter = ClientSize(link.hwnd());
+    EXPECT_LT(shorter.cx, size.cx);
+    MoveWindow(link.hwnd(), 10, 30, 400, 80, TRUE);
+    EXPECT_EQ(ClientSize(link.hwnd()).cx, shorter.cx);
+}
+
+}  // namespace
+}  // namespace quorin
