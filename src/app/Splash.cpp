@@ -1,0 +1,189 @@
+#include "app/Splash.h"
+
+#include <string>
+
+#include "QuorinVersion.h"
+#include "platform/Text.h"
+#include "resource.h"
+#include "ui/Dpi.h"
+#include "ui/PaintDc.h"
+#include "ui/WindowClass.h"
+
+namespace quorin {
+
+namespace {
+
+// Layout in pixels at 96 DPI. The picture fills the top; its left part leaves room for the
+// program's name beside the mark drawn into it.
+constexpr int kClientWidth = 400;
+constexpr int kClientHeight = 220;
+constexpr int kPictureHeight = 170;
+constexpr RECT kNameRect = {104, 36, 392, 84};
+constexpr RECT kTaglineRect = {106, 84, 392, 106};
+constexpr int kNameHeight = 44;
+constexpr int kTaglineHeight = 16;
+constexpr int kBandMargin = 16;
+constexpr int kButtonWidth = 80;
+constexpr int kButtonHeight = 26;
+constexpr int kCaptionHeight = 18;
+
+// Text on the picture is part of the picture, so it takes the picture's colours.
+constexpr COLORREF kNameColor = RGB(0xFF, 0xFF, 0xFF);
+constexpr COLORREF kTaglineColor = RGB(0xD6, 0xE6, 0xFD);
+
+void RegisterSplashClass() {
+    static const ATOM atom = [] {
+        WindowClass splashClass;
+        splashClass.name = kSplashClass;
+        splashClass.background = kNoBackground;
+        return RegisterWindowClass(splashClass);
+    }();
+    static_cast<void>(atom);
+}
+
+UniqueFont CreateTextFont(int dpi, int pixelHeight, LONG weight) {
+    LOGFONTW font = MessageFont(dpi);
+    if (pixelHeight != 0) {
+        font.lfHeight = -MulDiv(pixelHeight, dpi, 96);
+    }
+    font.lfWeight = weight;
+    font.lfQuality = CLEARTYPE_QUALITY;
+    return UniqueFont(CreateFontIndirectW(&font));
+}
+
+HWND CreateChild(HWND parent, const wchar_t* className, const std::wstring& text, DWORD style,
+                 int id) {
+    return CreateWindowExW(0, className, text.c_str(), WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0,
+                           parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                           GetModuleHandleW(nullptr), nullptr);
+}
+
+}  // namespace
+
+frmSplash::frmSplash() {
+    RegisterSplashClass();
+}
+
+void frmSplash::Show() {
+    dpi_ = ScreenDpi();
+    const DWORD style = WS_POPUP | WS_BORDER;
+    RECT frame{0, 0, MulDiv(kClientWidth, dpi_, 96), MulDiv(kClientHeight, dpi_, 96)};
+    AdjustWindowRectEx(&frame, style, FALSE, 0);
+    RECT workArea{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &workArea, 0);
+
+    WindowSpec spec;
+    spec.title = "Quorin";
+    spec.style = style;
+    spec.width = frame.right - frame.left;
+    spec.height = frame.bottom - frame.top;
+    spec.x = workArea.left + (workArea.right - workArea.left - spec.width) / 2;
+    spec.y = workArea.top + (workArea.bottom - workArea.top - spec.height) / 2;
+    Create(kSplashClass, spec);
+    ShowWindow(hwnd(), SW_SHOW);
+    SetFocus(cmdOK_);
+    UpdateWindow(hwnd());
+}
+
+void frmSplash::Unload() {
+    if (hwnd() != nullptr) {
+        DestroyWindow(hwnd());
+    }
+}
+
+LRESULT frmSplash::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_CREATE:
+            Form_Load();
+            return 0;
+        case WM_PAINT:
+            Form_Paint();
+            return 0;
+        case WM_COMMAND:
+            if (LOWORD(wParam) == kSplashOkId && HIWORD(wParam) == BN_CLICKED) {
+                cmdOK_Click();
+            }
+            return 0;
+        case WM_DPICHANGED: {
+            dpi_ = HIWORD(wParam);
+            const auto* suggested = reinterpret_cast<const RECT*>(lParam);
+            SetWindowPos(hwnd(), nullptr, suggested->left, suggested->top,
+                         suggested->right - suggested->left, suggested->bottom - suggested->top,
+                         SWP_NOZORDER | SWP_NOACTIVATE);
+            LayOut();
+            return 0;
+        }
+        default:
+            return Window::HandleMessage(message, wParam, lParam);
+    }
+}
+
+void frmSplash::Form_Load() {
+    dpi_ = WindowDpi(hwnd());
+    picture_.reset(
+        static_cast<HBITMAP>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDB_SPLASH),
+                                        IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+    lblVersion_ = CreateChild(hwnd(), L"STATIC", Widen("Version " QUORIN_VERSION_TEXT),
+                              SS_LEFT | SS_NOPREFIX, kSplashVersionId);
+    cmdOK_ = CreateChild(hwnd(), L"BUTTON", L"OK", WS_TABSTOP | BS_DEFPUSHBUTTON, kSplashOkId);
+    LayOut();
+}
+
+void frmSplash::LayOut() {
+    nameFont_ = CreateTextFont(dpi_, kNameHeight, FW_BOLD);
+    taglineFont_ = CreateTextFont(dpi_, kTaglineHeight, FW_NORMAL);
+    // The controls let go of the old font before it is deleted.
+    UniqueFont controlFont = CreateTextFont(dpi_, 0, FW_NORMAL);
+    for (HWND control : {lblVersion_, cmdOK_}) {
+        SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(controlFont.get()), TRUE);
+    }
+    controlFont_ = std::move(controlFont);
+    const auto scale = [this](int pixels) { return MulDiv(pixels, dpi_, 96); };
+    const int bandHeight = kClientHeight - kPictureHeight;
+    MoveWindow(lblVersion_, scale(kBandMargin),
+               scale(kPictureHeight + (bandHeight - kCaptionHeight) / 2), scale(200),
+               scale(kCaptionHeight), TRUE);
+    MoveWindow(cmdOK_, scale(kClientWidth - kBandMargin - kButtonWidth),
+               scale(kPictureHeight + (bandHeight - kButtonHeight) / 2), scale(kButtonWidth),
+               scale(kButtonHeight), TRUE);
+    InvalidateRect(hwnd(), nullptr, TRUE);
+}
+
+void frmSplash::Form_Paint() {
+    const PaintDc paint(hwnd());
+    const HDC dc = paint.get();
+    const auto scale = [this](int pixels) { return MulDiv(pixels, dpi_, 96); };
+    RECT client{};
+    GetClientRect(hwnd(), &client);
+    const RECT picture{0, 0, client.right, scale(kPictureHeight)};
+    if (picture_) {
+        BITMAP size{};
+        GetObjectW(picture_.get(), sizeof(size), &size);
+        const UniqueMemoryDC memory(CreateCompatibleDC(dc));
+        const SelectedObject selected(memory.get(), picture_.get());
+        SetStretchBltMode(dc, HALFTONE);
+        SetBrushOrgEx(dc, 0, 0, nullptr);
+        StretchBlt(dc, 0, 0, picture.right, picture.bottom, memory.get(), 0, 0, size.bmWidth,
+                   size.bmHeight, SRCCOPY);
+    } else {
+        FillRect(dc, &picture, GetSysColorBrush(COLOR_HIGHLIGHT));
+    }
+    const RECT band{0, picture.bottom, client.right, client.bottom};
+    FillRect(dc, &band, GetSysColorBrush(COLOR_BTNFACE));
+
+    SetBkMode(dc, TRANSPARENT);
+    const auto drawText = [&](const wchar_t* text, const RECT& at, HFONT font, COLORREF color) {
+        RECT rect{scale(at.left), scale(at.top), scale(at.right), scale(at.bottom)};
+        const SelectedObject selected(dc, font);
+        SetTextColor(dc, color);
+        DrawTextW(dc, text, -1, &rect, DT_LEFT | DT_BOTTOM | DT_SINGLELINE | DT_NOPREFIX);
+    };
+    drawText(L"Quorin", kNameRect, nameFont_.get(), kNameColor);
+    drawText(L"Type a word, open anything.", kTaglineRect, taglineFont_.get(), kTaglineColor);
+}
+
+void frmSplash::cmdOK_Click() {
+    Unload();
+}
+
+}  // namespace quorin

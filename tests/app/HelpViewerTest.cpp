@@ -1,0 +1,123 @@
+#include <windows.h>
+
+#include <richedit.h>
+
+#include <gtest/gtest.h>
+
+#include "app/Help.h"
+#include "app/HelpViewer.h"
+#include "platform/Path.h"
+#include "platform/Text.h"
+#include "support/TempFolder.h"
+
+namespace quorin {
+namespace {
+
+HWND Viewer() {
+    return FindWindowW(kHelpViewerClass, nullptr);
+}
+
+HWND TextBox(HWND viewer) {
+    return FindWindowExW(viewer, nullptr, MSFTEDIT_CLASS, nullptr);
+}
+
+std::string ShownText(HWND viewer) {
+    const HWND box = TextBox(viewer);
+    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(box)) + 1, L'\0');
+    text.resize(
+        static_cast<size_t>(GetWindowTextW(box, text.data(), static_cast<int>(text.size()))));
+    return Narrow(text);
+}
+
+bool IsBold(HWND box, LONG start, LONG end) {
+    CHARRANGE range{start, end};
+    SendMessageW(box, EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
+    CHARFORMAT2W format{};
+    format.cbSize = sizeof(format);
+    SendMessageW(box, EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+    return (format.dwMask & CFM_BOLD) != 0 && (format.dwEffects & CFE_BOLD) != 0;
+}
+
+class HelpViewerTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        folder_.WriteFile("qn.HLP",
+                          "@topic 10 Using Quorin\nType a word.\n@topic 20 Setting up\n"
+                          "Choose the drives.\n");
+        HelpSetup(nullptr, folder_.Path());
+    }
+    void TearDown() override { CloseHelp(); }
+
+    TempFolder folder_;
+};
+
+TEST_F(HelpViewerTest, OpensTheTopicWhereThePositionRecordSays) {
+    EXPECT_EQ(HelpFile(), JoinPath(folder_.Path(), "qn.HLP"));
+    ShowHelpTopic(kHelpUsingQuorin);
+    const HWND viewer = Viewer();
+    ASSERT_NE(viewer, nullptr);
+    EXPECT_TRUE(IsWindowVisible(viewer));
+    EXPECT_EQ(GetWindow(viewer, GW_OWNER), nullptr);  // help outlives a hidden main window
+
+    const std::string text = ShownText(viewer);
+    EXPECT_EQ(text.rfind("Using Quorin", 0), 0u) << text;
+    EXPECT_NE(text.find("Type a word."), std::string::npos) << text;
+    EXPECT_TRUE(IsBold(TextBox(viewer), 0, 5));
+    EXPECT_FALSE(IsBold(TextBox(viewer), 14, 18));
+
+    // 256/1024 of the screen from the left and the top, half the screen in size.
+    RECT place{};
+    GetWindowRect(viewer, &place);
+    const int screenWidth = GetSystemMetrics(SM_CXSCREEN);
+    const int screenHeight = GetSystemMetrics(SM_CYSCREEN);
+    EXPECT_EQ(place.left, screenWidth / 4);
+    EXPECT_EQ(place.top, screenHeight / 4);
+    EXPECT_EQ(place.right - place.left, screenWidth / 2);
+    EXPECT_EQ(place.bottom - place.top, screenHeight / 2);
+}
+
+TEST_F(HelpViewerTest, ReusesTheOpenWindowForTheNextTopic) {
+    ShowHelpTopic(kHelpUsingQuorin);
+    const HWND viewer = Viewer();
+    SetWindowPos(viewer, nullptr, 10, 20, 400, 300, SWP_NOZORDER);
+    ShowHelpTopic(kHelpSettingUp);
+
+    EXPECT_EQ(Viewer(), viewer);
+    const std::string text = ShownText(viewer);
+    EXPECT_NE(text.find("Choose the drives."), std::string::npos) << text;
+    EXPECT_EQ(text.find("Type a word."), std::string::npos) << text;
+    RECT place{};
+    GetWindowRect(viewer, &place);
+    EXPECT_EQ(place.left, 10);  // the user's place is kept
+}
+
+TEST_F(HelpViewerTest, CloseHelpDestroysTheWindowAndHelpOpensAgainAfterwards) {
+    ShowHelpTopic(kHelpUsingQuorin);
+    const HWND viewer = Viewer();
+    CloseHelp();
+    EXPECT_FALSE(IsWindow(viewer));
+    CloseHelp();  // nothing open: nothing happens
+
+    ShowHelpTopic(kHelpUsingQuorin);
+    const HWND reopened = Viewer();
+    ASSERT_NE(reopened, nullptr);
+    SendMessageW(reopened, WM_CLOSE, 0, 0);  // the user closes it
+    EXPECT_FALSE(IsWindow(reopened));
+    ShowHelpTopic(kHelpSettingUp);
+    ASSERT_NE(Viewer(), nullptr);
+    EXPECT_TRUE(IsWindowVisible(Viewer()));
+}
+
+TEST_F(HelpViewerTest, ShowsAMissingTopicOrFileInTheWindow) {
+    ShowHelpTopic(55);
+    EXPECT_NE(ShownText(Viewer()).find("no topic number 55"), std::string::npos);
+
+    HelpSetup(nullptr, JoinPath(folder_.Path(), "elsewhere"));
+    ShowHelpTopic(kHelpUsingQuorin);
+    const std::string text = ShownText(Viewer());
+    EXPECT_EQ(text.rfind("Help is not available", 0), 0u) << text;
+    EXPECT_NE(text.find("could not be read"), std::string::npos) << text;
+}
+
+}  // namespace
+}  // namespace quorin

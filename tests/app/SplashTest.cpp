@@ -1,0 +1,58 @@
+#include "app/Splash.h"
+
+#include <gtest/gtest.h>
+
+#include "QuorinVersion.h"
+#include "platform/Text.h"
+#include "ui/Dpi.h"
+
+namespace quorin {
+namespace {
+
+HWND SplashWindow() {
+    return FindWindowW(kSplashClass, nullptr);
+}
+
+std::string ControlText(HWND parent, int id) {
+    wchar_t text[128] = {};
+    GetDlgItemTextW(parent, id, text, 128);
+    return Narrow(text);
+}
+
+TEST(Splash, ShowsThePictureSizeTheVersionAndAnOkThatClosesIt) {
+    frmSplash splash;
+    splash.Show();
+    const HWND window = SplashWindow();
+    ASSERT_NE(window, nullptr);
+    EXPECT_TRUE(IsWindowVisible(window));
+    EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE)) << "painted at once";
+
+    RECT client{};
+    GetClientRect(window, &client);
+    EXPECT_EQ(client.right, MulDiv(400, ScreenDpi(), 96));
+    EXPECT_EQ(client.bottom, MulDiv(220, ScreenDpi(), 96));
+    EXPECT_EQ(ControlText(window, kSplashVersionId), "Version " QUORIN_VERSION_TEXT);
+    EXPECT_EQ(ControlText(window, kSplashOkId), "OK");
+
+    SendDlgItemMessageW(window, kSplashOkId, BM_CLICK, 0, 0);
+    EXPECT_FALSE(IsWindow(window));
+    splash.Unload();  // the caller's unload after OK does nothing
+}
+
+TEST(Splash, UnloadAndTheObjectsEndRemoveIt) {
+    HWND window = nullptr;
+    {
+        frmSplash splash;
+        splash.Show();
+        window = SplashWindow();
+        splash.Unload();
+        EXPECT_FALSE(IsWindow(window));
+        splash.Show();  // shown again by a later start-up step
+        window = SplashWindow();
+        EXPECT_TRUE(IsWindowVisible(window));
+    }
+    EXPECT_FALSE(IsWindow(window));
+}
+
+}  // namespace
+}  // namespace quorin
