@@ -1,0 +1,36 @@
+#include "ui/matches/MatchesLayout.h"
+
+namespace quorin {
+namespace {
+
+constexpr int kMargin = 120;
+constexpr int kLabelHeight = 300;
+constexpr int kListTop = 480;
+constexpr int kButtonWidth = 1140;
+constexpr int kButtonHeight = 375;
+
+}  // namespace
+
+std::optional<TwipsSize> MatchesMinimumFix(TwipsSize window) {
+    if (window.width < kMatchesMinimumTwips) {
+        return TwipsSize{kMatchesMinimumTwips, window.height};
+    }
+    if (window.height < kMatchesMinimumTwips) {
+        return TwipsSize{window.width, kMatchesMinimumTwips};
+    }
+    return std::nullopt;
+}
+
+MatchesLayout ArrangeMatches(TwipsSize window) {
+    const int w = window.width;
+    const int h = window.height;
+    MatchesLayout layout;
+    // The label keeps its designed width, as the list's width follows the window.
+    layout.Label1 = {kMargin, kMargin, kMatchesDesignedSize.width - 360, kLabelHeight};
+    layout.lvwItems = {kMargin, kListTop, w - 360, h - 1500};
+    layout.cmdOpen = {w - 1380, h - 870, kButtonWidth, kButtonHeight};
+    layout.chkAssociate = {kMargin, h - 870, w - 1560, kButtonHeight};
+    return layout;
+}
+
+}  // namespace quorin

@@ -1,0 +1,425 @@
+#include "ui/matches/frmMatches.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <utility>
+
+#include "index/LenientConversions.h"
+#include "index/clsIndex.h"
+#include "platform/Path.h"
+#include "platform/Prompter.h"
+#include "platform/SettingsStore.h"
+#include "platform/Shell.h"
+#include "platform/Text.h"
+#include "ui/Dpi.h"
+#include "ui/WindowClass.h"
+#include "ui/matches/MatchesLayout.h"
+
+namespace quorin {
+namespace {
+
+constexpr std::string_view kSection = "Matches";
+constexpr int kSmallIconPixels = 16;  // at 96 DPI
+constexpr int kNameColumnTwips = 2700;
+constexpr int kLocationColumnTwips = 3800;
+
+// The list's double-click and Enter run once the list view has returned from its notification,
+// since opening a row destroys the list.
+constexpr UINT kListDoubleClick = WM_APP + 1;
+constexpr UINT kListKeyPress = WM_APP + 2;
+
+void RegisterMatchesClass() {
+    static const ATOM atom = [] {
+        INITCOMMONCONTROLSEX controls{sizeof controls, ICC_LISTVIEW_CLASSES};
+        InitCommonControlsEx(&controls);
+        return RegisterWindowClass(
+            {.name = kMatchesClass, .procedure = &Window::SelfOwnedProcedure<frmMatches>});
+    }();
+    static_cast<void>(atom);
+}
+
+HWND CreateControl(HWND parent, const wchar_t* className, const wchar_t* text, DWORD style, int id,
+                   DWORD exStyle = 0) {
+    return CreateWindowExW(exStyle, className, text, WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0,
+                           parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                           GetModuleHandleW(nullptr), nullptr);
+}
+
+void AddColumn(HWND list, int column, const wchar_t* title, int width) {
+    LVCOLUMNW header{};
+    header.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
+    header.pszText = const_cast<wchar_t*>(title);
+    header.cx = width;
+    header.iSubItem = column;
+    ListView_InsertColumn(list, column, &header);
+}
+
+void Place(HWND control, const TwipsRect& rect, int dpi) {
+    MoveWindow(control, TwipsToPixels(rect.left, dpi), TwipsToPixels(rect.top, dpi),
+               TwipsToPixels(rect.width, dpi), TwipsToPixels(rect.height, dpi), TRUE);
+}
+
+// The fewest pixels that measure at least `twips`, so that a window grown to the minimum is not
+// found below it again after rounding.
+int PixelsCovering(int twips, int dpi) {
+    int pixels = TwipsToPixels(twips, dpi);
+    while (PixelsToTwips(pixels, dpi) < twips) {
+        ++pixels;
+    }
+    return pixels;
+}
+
+void SetCursorShape(const wchar_t* shape) {
+    SetCursor(LoadCursorW(nullptr, shape));
+}
+
+}  // namespace
+
+HWND ShowMatches(const std::string& word, MatchList matches, const MatchesHost& host) {
+    frmMatches& form = frmMatches::Load(host);
+    // The form may be gone after filling: a failure's message box lets the user close it.
+    const HWND window = form.hwnd();
+    form.Show();
+    form.Word(word);
+    form.Matches(std::move(matches));
+    return window;
+}
+
+frmMatches& frmMatches::Load(const MatchesHost& host) {
+    RegisterMatchesClass();
+    MatchesHost creation = host;
+    const int dpi = ScreenDpi();
+    const HWND window = CreateHandle(kMatchesClass,
+                                     {.title = "Multiple Matches",
+                                      .width = TwipsToPixels(kMatchesDesignedSize.width, dpi),
+                                      .height = TwipsToPixels(kMatchesDesignedSize.height, dpi)},
+                                     &creation);
+    return *static_cast<frmMatches*>(FromHandle(window));
+}
+
+void frmMatches::Show() {
+    ShowWindow(hwnd(), SW_SHOWNORMAL);
+    SetForegroundWindow(hwnd());
+    SetFocus(lvwItems_);
+}
+
+void frmMatches::Matches(MatchList matches) {
+    SetCursorShape(IDC_WAIT);
+    SetWindowTextW(Label1_, Widen(std::to_string(matches.Count()) +
+                                  " matches found. Please choose from the following.")
+                                .c_str());
+    UpdateWindow(hwnd());
+    matches_ = std::move(matches);
+    try {
+        for (int32_t position = 1; position <= matches_->Count(); ++position) {
+            AddRow(matches_->Item(position));
+        }
+    } catch (const std::exception& error) {
+        // The rows so far stay; the hourglass is left as it is.
+        host_->prompter.Ask(kSection, error.what(), PromptButtons::Ok, PromptIcon::Critical);
+        return;
+    }
+    SelectRow(0);
+    SetCursorShape(IDC_ARROW);
+}
+
+LRESULT frmMatches::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_CREATE:
+            Form_Load(*static_cast<const MatchesHost*>(
+                reinterpret_cast<const CREATESTRUCTW*>(lParam)->lpCreateParams));
+            return 0;
+        case WM_SIZE:
+            Form_Resize();
+            return 0;
+        case WM_SETFOCUS:
+            SetFocus(lvwItems_);
+            return 0;
+        case WM_COMMAND:
+            OnCommand(LOWORD(wParam), HIWORD(wParam));
+            return 0;
+        case WM_NOTIFY:
+            OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
+            return 0;
+        case kListDoubleClick:
+            lvwItems_DblClick();
+            return 0;
+        case kListKeyPress:
+            lvwItems_KeyPress(static_cast<int>(wParam));
+            return 0;
+        case WM_DPICHANGED: {
+            dpi_ = HIWORD(wParam);
+            ApplyFont();
+            const auto& suggested = *reinterpret_cast<const RECT*>(lParam);
+            SetWindowPos(hwnd(), nullptr, suggested.left, suggested.top,
+                         suggested.right - suggested.left, suggested.bottom - suggested.top,
+                         SWP_NOZORDER | SWP_NOACTIVATE);
+            return 0;
+        }
+        case WM_DESTROY:
+            Form_Unload();
+            return 0;
+        default:
+            return Window::HandleMessage(message, wParam, lParam);
+    }
+}
+
+void frmMatches::Form_Load(const MatchesHost& host) {
+    host_.emplace(host);
+    dpi_ = WindowDpi(hwnd());
+    CreateControls();
+    ApplyFont();
+    RestorePlace();
+
+    const int iconSize = MulDiv(kSmallIconPixels, dpi_, USER_DEFAULT_SCREEN_DPI);
+    imlLarge_.reset(ImageList_Create(iconSize, iconSize, ILC_COLOR32 | ILC_MASK, 0, 8));
+    imlSmall_.reset(ImageList_Create(iconSize, iconSize, ILC_COLOR32 | ILC_MASK, 0, 8));
+    // Crossed on purpose: the extractor answers with the index in the list it was given as
+    // large, and that list is the one the rows take their small icons from. Both lists get the
+    // same image at the same index.
+    ctlIconExtractor1_.ImageListSmall(imlLarge_.get());
+    ctlIconExtractor1_.ImageListLarge(imlSmall_.get());
+    ListView_SetImageList(lvwItems_, imlSmall_.get(), LVSIL_SMALL);
+
+    SendMessageW(hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(host.icon));
+    SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(host.icon));
+}
+
+// The offsets were drawn for a window measured with the designed frame; see MatchesLayout.h.
+void frmMatches::Form_Resize() {
+    if (IsIconic(hwnd())) {
+        return;
+    }
+    RECT frame{};
+    GetWindowRect(hwnd(), &frame);
+    const TwipsSize outer{PixelsToTwips(frame.right - frame.left, dpi_),
+                          PixelsToTwips(frame.bottom - frame.top, dpi_)};
+    if (const std::optional<TwipsSize> fixed = MatchesMinimumFix(outer)) {
+        SetWindowPos(hwnd(), nullptr, 0, 0, PixelsCovering(fixed->width, dpi_),
+                     PixelsCovering(fixed->height, dpi_),
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        return;
+    }
+    RECT client{};
+    GetClientRect(hwnd(), &client);
+    const MatchesLayout layout =
+        ArrangeMatches({PixelsToTwips(client.right, dpi_) + kMatchesDesignedFrame.width,
+                        PixelsToTwips(client.bottom, dpi_) + kMatchesDesignedFrame.height});
+    Place(Label1_, layout.Label1, dpi_);
+    Place(lvwItems_, layout.lvwItems, dpi_);
+    Place(cmdOpen_, layout.cmdOpen, dpi_);
+    Place(chkAssociate_, layout.chkAssociate, dpi_);
+}
+
+// A minimized window saves its minimized place and size like any other.
+void frmMatches::Form_Unload() {
+    RECT frame{};
+    GetWindowRect(hwnd(), &frame);
+    const auto save = [this](std::string_view key, int pixels) {
+        host_->settings.Save(kSection, key, std::to_string(PixelsToTwips(pixels, dpi_)));
+    };
+    save("Left", frame.left);
+    save("Top", frame.top);
+    save("Width", frame.right - frame.left);
+    save("Height", frame.bottom - frame.top);
+}
+
+void frmMatches::cmdOpen_Click() {
+    const std::optional<int> row = SelectedRow();
+    if (!row) {
+        return;
+    }
+    OpenRow(*row);
+    Unload();
+}
+
+// A double-click beside the rows can leave none selected; then there is nothing to open.
+void frmMatches::lvwItems_DblClick() {
+    const std::optional<int> row = SelectedRow();
+    if (!row) {
+        return;
+    }
+    SetCursorShape(IDC_WAIT);
+    OpenRow(*row);
+    SetCursorShape(IDC_ARROW);
+    Unload();
+}
+
+void frmMatches::lvwItems_KeyPress(int key) {
+    if (key == VK_RETURN) {
+        lvwItems_DblClick();
+    }
+}
+
+void frmMatches::lvwItems_ColumnClick(int column) {
+    sort_.ColumnClick(column);
+    SortRows();
+    ShowSortArrow();
+}
+
+void frmMatches::OnNotify(const NMHDR& header) {
+    if (header.hwndFrom != lvwItems_) {
+        return;
+    }
+    switch (header.code) {
+        case LVN_COLUMNCLICK:
+            lvwItems_ColumnClick(reinterpret_cast<const NMLISTVIEW&>(header).iSubItem);
+            break;
+        case NM_DBLCLK:
+            PostMessageW(hwnd(), kListDoubleClick, 0, 0);
+            break;
+        case NM_RETURN:
+            PostMessageW(hwnd(), kListKeyPress, VK_RETURN, 0);
+            break;
+        default:
+            break;
+    }
+}
+
+// The dialog manager turns Enter into a click of Open and Escape into IDCANCEL; Enter in the list
+// is the list's own key.
+void frmMatches::OnCommand(int id, int code) {
+    if (code != BN_CLICKED) {
+        return;
+    }
+    if (id == kMatchesOpenId) {
+        if (GetFocus() == lvwItems_) {
+            lvwItems_KeyPress(VK_RETURN);
+        } else {
+            cmdOpen_Click();
+        }
+    } else if (id == IDCANCEL) {
+        Unload();
+    }
+}
+
+// Made in tab order: the list, the check box, Open.
+void frmMatches::CreateControls() {
+    Label1_ = CreateControl(
+        hwnd(), L"STATIC",
+        L"Quorin found multiple matches for your keyword. Please choose from the following:",
+        SS_LEFT | SS_NOPREFIX, kMatchesLabelId);
+    lvwItems_ = CreateControl(
+        hwnd(), WC_LISTVIEWW, L"",
+        WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
+        kMatchesListId, WS_EX_CLIENTEDGE);
+    ListView_SetExtendedListViewStyle(lvwItems_, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
+    AddColumn(lvwItems_, MatchesSort::kName, L"Name", TwipsToPixels(kNameColumnTwips, dpi_));
+    AddColumn(lvwItems_, MatchesSort::kLocation, L"Location",
+              TwipsToPixels(kLocationColumnTwips, dpi_));
+    chkAssociate_ = CreateControl(hwnd(), L"BUTTON", L"Always associate this word with this item",
+                                  WS_TABSTOP | BS_AUTOCHECKBOX, kMatchesAssociateId);
+    cmdOpen_ =
+        CreateControl(hwnd(), L"BUTTON", L"Open", WS_TABSTOP | BS_DEFPUSHBUTTON, kMatchesOpenId);
+}
+
+void frmMatches::ApplyFont() {
+    const LOGFONTW logFont = MessageFont(dpi_);
+    UniqueFont font(CreateFontIndirectW(&logFont));
+    for (HWND control : {Label1_, lvwItems_, chkAssociate_, cmdOpen_}) {
+        SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+    }
+    // The controls have let go of the old font.
+    font_ = std::move(font);
+}
+
+void frmMatches::RestorePlace() {
+    const auto read = [this](std::string_view key) {
+        // Anything but a whole number counts as never saved.
+        return ParseWholeNumber(host_->settings.Get(kSection, key, "0")).value_or(0);
+    };
+    const int width = read("Width");
+    if (width >= 1) {
+        MoveWindow(hwnd(), TwipsToPixels(read("Left"), dpi_), TwipsToPixels(read("Top"), dpi_),
+                   TwipsToPixels(width, dpi_), TwipsToPixels(read("Height"), dpi_), FALSE);
+    }
+}
+
+void frmMatches::AddRow(const clsItem& item) {
+    const std::string folder = host_->index.GetPath(item.Directory);
+    const std::optional<int> image = ctlIconExtractor1_.RetrieveFileIcon(item.Filename, folder);
+    Row& added = rows_.emplace_back(
+        Row{Widen(item.Filename), Widen(folder), JoinPath(folder, item.Filename)});
+    LVITEMW row{};
+    row.mask = LVIF_TEXT | LVIF_IMAGE | LVIF_PARAM;
+    row.iItem = ListView_GetItemCount(lvwItems_);
+    row.pszText = added.name.data();
+    row.iImage = image.value_or(I_IMAGENONE);
+    row.lParam = static_cast<LPARAM>(rows_.size() - 1);
+    const int inserted = ListView_InsertItem(lvwItems_, &row);
+    ListView_SetItemText(lvwItems_, inserted, MatchesSort::kLocation, added.location.data());
+}
+
+void frmMatches::SelectRow(int row) {
+    const UINT state = LVIS_SELECTED | LVIS_FOCUSED;
+    ListView_SetItemState(lvwItems_, row, state, state);
+    ListView_EnsureVisible(lvwItems_, row, FALSE);
+}
+
+std::optional<int> frmMatches::SelectedRow() const {
+    const int row = ListView_GetNextItem(lvwItems_, -1, LVNI_SELECTED);
+    return row < 0 ? std::nullopt : std::optional<int>(row);
+}
+
+// The word goes to the item at the row's current position in the collection, which after a
+// sort need not be the row's own file; the file opened is always the row's own.
+void frmMatches::OpenRow(int row) {
+    if (Button_GetCheck(chkAssociate_) == BST_CHECKED) {
+        clsItem item = matches_->Item(row + 1);
+        item.Word = word_;
+        host_->index.AddWord(item);
+        if (host_->AddWords) {
+            host_->AddWords();
+        }
+    }
+    const Row& chosen = RowAt(row);
+    host_->shell.Open(chosen.path, "", Narrow(chosen.location), kShowNormal);
+}
+
+const frmMatches::Row& frmMatches::RowAt(int row) const {
+    LVITEMW item{};
+    item.mask = LVIF_PARAM;
+    item.iItem = row;
+    ListView_GetItem(lvwItems_, &item);
+    return rows_.at(static_cast<size_t>(item.lParam));
+}
+
+const std::wstring& frmMatches::Row::Text(int column) const {
+    return column == MatchesSort::kName ? name : location;
+}
+
+// The list view's own sort compares the texts of the sort key's column this way: without
+// regard to case. The rows are told apart by lParam, which sorting leaves with them.
+int CALLBACK frmMatches::CompareRows(LPARAM first, LPARAM second, LPARAM self) {
+    const auto& form = *reinterpret_cast<const frmMatches*>(self);
+    const int column = form.sort_.SortKey;
+    const int order = lstrcmpiW(form.rows_.at(static_cast<size_t>(first)).Text(column).c_str(),
+                                form.rows_.at(static_cast<size_t>(second)).Text(column).c_str());
+    return form.sort_.SortOrder == MatchesSortOrder::Descending ? -order : order;
+}
+
+void frmMatches::SortRows() {
+    ListView_SortItems(lvwItems_, &CompareRows, reinterpret_cast<LPARAM>(this));
+}
+
+void frmMatches::ShowSortArrow() {
+    const HWND header = ListView_GetHeader(lvwItems_);
+    for (int column : {MatchesSort::kName, MatchesSort::kLocation}) {
+        HDITEMW item{};
+        item.mask = HDI_FORMAT;
+        Header_GetItem(header, column, &item);
+        item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
+        if (sort_.Sorted && column == sort_.SortKey) {
+            item.fmt |= sort_.SortOrder == MatchesSortOrder::Ascending ? HDF_SORTUP : HDF_SORTDOWN;
+        }
+        Header_SetItem(header, column, &item);
+    }
+}
+
+// The window's object goes with it: nothing may touch a member afterwards.
+void frmMatches::Unload() {
+    DestroyWindow(hwnd());
+}
+
+}  // namespace quorin

@@ -1,0 +1,114 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "index/MatchList.h"
+#include "platform/WinHandles.h"
+#include "ui/Window.h"
+#include "ui/matches/MatchesSort.h"
+#include "ui/matches/ctlIconExtractor.h"
+
+namespace quorin {
+
+class clsIndex;
+class Prompter;
+class SettingsStore;
+class Shell;
+
+// What the Matches window works with. All of it must outlive the window.
+struct MatchesHost {
+    clsIndex& index;
+    Shell& shell;
+    SettingsStore& settings;  // section "Matches" keeps the window's place
+    Prompter& prompter;
+    std::function<void()> AddWords;  // refreshes the main window's word list after an assignment
+    HICON icon = nullptr;            // the main window's icon
+};
+
+// Opens the "Multiple Matches" window for a typed word and the files it matched, modeless, and
+// returns it. The window owns itself: it goes when the user opens a row or closes it.
+HWND ShowMatches(const std::string& word, MatchList matches, const MatchesHost& host);
+
+inline constexpr wchar_t kMatchesClass[] = L"QuorinMatches";
+inline constexpr int kMatchesLabelId = 100;
+inline constexpr int kMatchesListId = 101;
+inline constexpr int kMatchesAssociateId = 102;
+inline constexpr int kMatchesOpenId = IDOK;  // so that Enter anywhere in the window opens
+
+// The chooser that lists several matches with their icons, name and folder, sorts them by a
+// column click and opens the chosen one through the shell, assigning the typed word to it when
+// the check box says so. What a row shows and its tag (its full path) are kept beside the list,
+// indexed by the row's lParam, so sorting leaves each row its own file.
+class frmMatches final : public Window {
+  public:
+    // Made by the window itself (see Load); public for that only.
+    frmMatches() = default;
+
+    // Creates the window hidden, at its saved place; it owns itself from then on.
+    static frmMatches& Load(const MatchesHost& host);
+
+    void Show();
+    void Word(std::string word) { word_ = std::move(word); }
+    // Fills the list, one row per match in collection order, and selects the first row.
+    void Matches(MatchList matches);
+
+  protected:
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  private:
+    struct Row {
+        std::wstring name;
+        std::wstring location;
+        std::string path;  // the tag
+
+        const std::wstring& Text(int column) const;
+    };
+
+    static int CALLBACK CompareRows(LPARAM first, LPARAM second, LPARAM self);
+
+    void Form_Load(const MatchesHost& host);
+    void Form_Resize();
+    void Form_Unload();
+    void cmdOpen_Click();
+    void lvwItems_DblClick();
+    void lvwItems_KeyPress(int key);
+    void lvwItems_ColumnClick(int column);
+    void OnNotify(const NMHDR& header);
+    void OnCommand(int id, int code);
+
+    void CreateControls();
+    void ApplyFont();
+    void RestorePlace();
+    void AddRow(const clsItem& item);
+    void SelectRow(int row);
+    std::optional<int> SelectedRow() const;
+    const Row& RowAt(int row) const;
+    void OpenRow(int row);
+    void SortRows();
+    void ShowSortArrow();
+    void Unload();
+
+    std::optional<MatchesHost> host_;
+    std::string word_;
+    std::optional<MatchList> matches_;
+    std::vector<Row> rows_;  // by lParam
+    MatchesSort sort_;
+    int dpi_ = USER_DEFAULT_SCREEN_DPI;
+
+    HWND Label1_ = nullptr;
+    HWND lvwItems_ = nullptr;
+    HWND chkAssociate_ = nullptr;
+    HWND cmdOpen_ = nullptr;
+    UniqueFont font_;
+    UniqueImageList imlLarge_;
+    UniqueImageList imlSmall_;
+    ctlIconExtractor ctlIconExtractor1_;
+};
+
+}  // namespace quorin

@@ -1,0 +1,348 @@
+#include <windows.h>
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "index/clsIndex.h"
+#include "platform/Clock.h"
+#include "platform/MemorySettingsStore.h"
+#include "platform/Prompter.h"
+#include "platform/Shell.h"
+#include "platform/Text.h"
+#include "platform/registry/ScratchClasses.h"
+#include "support/TempFolder.h"
+#include "ui/Dpi.h"
+#include "ui/MessagePump.h"
+#include "ui/matches/MatchesLayout.h"
+#include "ui/matches/frmMatches.h"
+
+namespace quorin {
+namespace {
+
+// Three files match "plan": a registered type, an unknown one and a program.
+constexpr char kIndexFile[] =
+    "2023-03-15 12:00:00\r\n 3\r\nC:\\Work\r\nC:\\Archive\r\nC:\\Music\r\n"
+    " 0\r\nPlan B.qzt\r\n 1\r\nplan a.qzx\r\n 1\r\nother.txt\r\n 2\r\nPlans.exe\r\n";
+
+class RecordingShell final : public Shell {
+  public:
+    struct Call {
+        std::string file;
+        std::string parameters;
+        std::string folder;
+        int show;
+    };
+    void Open(std::string_view file, std::string_view parameters, std::string_view workingFolder,
+              int showCommand) override {
+        calls.push_back(
+            {std::string(file), std::string(parameters), std::string(workingFolder), showCommand});
+    }
+    std::vector<Call> calls;
+};
+
+class RecordingPrompter final : public Prompter {
+  public:
+    struct Prompt {
+        std::string title;
+        std::string text;
+        PromptButtons buttons;
+        PromptIcon icon;
+    };
+    PromptAnswer Ask(std::string_view title, std::string_view text, PromptButtons buttons,
+                     PromptIcon icon) override {
+        prompts.push_back({std::string(title), std::string(text), buttons, icon});
+        return PromptAnswer::Ok;
+    }
+    std::vector<Prompt> prompts;
+};
+
+std::vector<std::string> Column(HWND list, int column) {
+    std::vector<std::string> texts;
+    for (int row = 0; row < ListView_GetItemCount(list); ++row) {
+        wchar_t text[MAX_PATH] = {};
+        ListView_GetItemText(list, row, column, text, MAX_PATH);
+        texts.push_back(Narrow(text));
+    }
+    return texts;
+}
+
+int RowImage(HWND list, int row) {
+    LVITEMW item{};
+    item.mask = LVIF_IMAGE;
+    item.iItem = row;
+    ListView_GetItem(list, &item);
+    return item.iImage;
+}
+
+void SelectRow(HWND list, int row) {
+    const UINT state = LVIS_SELECTED | LVIS_FOCUSED;
+    ListView_SetItemState(list, row, state, state);
+}
+
+// Hidden windows ignore synthetic mouse clicks under Wine, so the tests send what the
+// controls would send for a click.
+void ClickColumn(HWND list, int column) {
+    NMLISTVIEW click{};
+    click.hdr = {list, static_cast<UINT_PTR>(kMatchesListId), LVN_COLUMNCLICK};
+    click.iItem = -1;
+    click.iSubItem = column;
+    SendMessageW(GetParent(list), WM_NOTIFY, kMatchesListId, reinterpret_cast<LPARAM>(&click));
+}
+
+void ClickButton(HWND form, int id) {
+    SendMessageW(form, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(GetDlgItem(form, id)));
+}
+
+void PressKey(HWND window, WPARAM key) {
+    SendMessageW(window, WM_KEYDOWN, key, 1);
+    SendMessageW(window, WM_KEYUP, key, 1);
+}
+
+// The key as the program's message loop hands it over: to the dialog manager first.
+bool DialogKey(HWND form, HWND target, WPARAM key) {
+    MSG message{target, WM_KEYDOWN, key, 1, 0, {}};
+    return IsDialogMessageW(form, &message) != FALSE;
+}
+
+TwipsSize OuterTwips(HWND window) {
+    RECT frame{};
+    GetWindowRect(window, &frame);
+    const int dpi = WindowDpi(window);
+    return {PixelsToTwips(frame.right - frame.left, dpi),
+            PixelsToTwips(frame.bottom - frame.top, dpi)};
+}
+
+class MatchesWindowTest : public ::testing::Test {
+  protected:
+    MatchesWindowTest() {
+        classes_.RegisterType(".qzt", "QuorinTest.Plan", "Quorin plan",
+                              "%SystemRoot%\\system32\\shell32.dll,-152");
+        program_.WriteFile("index.txt", kIndexFile);
+        index_ = std::make_unique<clsIndex>(
+            IndexServices{settings_, clock_, prompter_, events_, program_.Path()});
+    }
+
+    MatchesHost Host() {
+        return {*index_, shell_, settings_, prompter_, [this] { ++wordListRefreshes_; }, nullptr};
+    }
+
+    // The window as Go leaves it, but hidden.
+    HWND Load() {
+        frmMatches& form = frmMatches::Load(Host());
+        form.Word("plan");
+        form.Matches(*index_->FindMatch("plan"));
+        return form.hwnd();
+    }
+
+    static HWND List(HWND form) { return GetDlgItem(form, kMatchesListId); }
+
+    std::string Saved(std::string_view key) const { return settings_.Get("Matches", key, "-"); }
+
+    ScratchClasses classes_;
+    TempFolder program_;
+    MemorySettingsStore settings_;
+    SystemClock clock_;
+    RecordingPrompter prompter_;
+    MessagePump events_;
+    RecordingShell shell_;
+    std::unique_ptr<clsIndex> index_;
+    int wordListRefreshes_ = 0;
+};
+
+TEST_F(MatchesWindowTest, ListsTheMatchesInCollectionOrderWithTheFirstSelected) {
+    const HWND form = Load();
+    const HWND list = List(form);
+
+    wchar_t text[200] = {};
+    GetWindowTextW(GetDlgItem(form, kMatchesLabelId), text, 200);
+    EXPECT_EQ(Narrow(text), "3 matches found. Please choose from the following.");
+    GetWindowTextW(form, text, 200);
+    EXPECT_EQ(Narrow(text), "Multiple Matches");
+
+    EXPECT_EQ(Column(list, 0), (std::vector<std::string>{"Plan B.qzt", "plan a.qzx", "Plans.exe"}));
+    EXPECT_EQ(Column(list, 1), (std::vector<std::string>{"C:\\Work", "C:\\Archive", "C:\\Music"}));
+    EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_SELECTED), 0);
+    EXPECT_EQ(ListView_GetNextItem(list, 0, LVNI_SELECTED), -1);
+
+    // Each found icon is the next image of the list the rows draw from; the unknown type has none.
+    EXPECT_EQ(RowImage(list, 0), 0);
+    EXPECT_EQ(RowImage(list, 1), I_IMAGENONE);
+    EXPECT_EQ(RowImage(list, 2), 1);
+    EXPECT_EQ(ImageList_GetImageCount(ListView_GetImageList(list, LVSIL_SMALL)), 2);
+
+    // Tab goes round the list, the check box and Open.
+    const HWND check = GetDlgItem(form, kMatchesAssociateId);
+    const HWND open = GetDlgItem(form, kMatchesOpenId);
+    EXPECT_EQ(GetNextDlgTabItem(form, list, FALSE), check);
+    EXPECT_EQ(GetNextDlgTabItem(form, check, FALSE), open);
+    EXPECT_EQ(GetNextDlgTabItem(form, open, FALSE), list);
+    EXPECT_TRUE(prompter_.prompts.empty());
+    DestroyWindow(form);
+}
+
+TEST_F(MatchesWindowTest, ColumnClicksSortByTheColumnsTextWithoutRegardToCase) {
+    const HWND form = Load();
+    const HWND list = List(form);
+    using Names = std::vector<std::string>;
+
+    ClickColumn(list, 0);  // the list starts keyed on "Name", ascending: this flips it
+    EXPECT_EQ(Column(list, 0), (Names{"Plans.exe", "Plan B.qzt", "plan a.qzx"}));
+    ClickColumn(list, 0);
+    EXPECT_EQ(Column(list, 0), (Names{"plan a.qzx", "Plan B.qzt", "Plans.exe"}));
+    ClickColumn(list, 1);
+    EXPECT_EQ(Column(list, 1), (Names{"C:\\Archive", "C:\\Music", "C:\\Work"}));
+    EXPECT_EQ(Column(list, 0), (Names{"plan a.qzx", "Plans.exe", "Plan B.qzt"}));
+    ClickColumn(list, 1);
+    EXPECT_EQ(Column(list, 1), (Names{"C:\\Work", "C:\\Music", "C:\\Archive"}));
+    DestroyWindow(form);
+}
+
+TEST_F(MatchesWindowTest, AssociationGoesToTheRowsPositionWhileTheRowsOwnFileOpens) {
+    const HWND plain = Load();
+    SelectRow(List(plain), 1);
+    ClickButton(plain, kMatchesOpenId);  // the box is clear: nothing is assigned
+    EXPECT_EQ(index_->Words().Count(), 0);
+    EXPECT_EQ(wordListRefreshes_, 0);
+    EXPECT_FALSE(IsWindow(plain));
+
+    const HWND form = Load();
+    ClickColumn(List(form), 0);  // rows: Plans.exe, Plan B.qzt, plan a.qzx
+    SelectRow(List(form), 2);
+    Button_SetCheck(GetDlgItem(form, kMatchesAssociateId), BST_CHECKED);
+    ClickButton(form, kMatchesOpenId);
+
+    ASSERT_EQ(shell_.calls.size(), 2u);
+    for (const RecordingShell::Call& call : shell_.calls) {
+        EXPECT_EQ(call.file, "C:\\Archive\\plan a.qzx");
+        EXPECT_EQ(call.parameters, "");
+        EXPECT_EQ(call.folder, "C:\\Archive");
+        EXPECT_EQ(call.show, 5);
+    }
+    // Position 3 of the collection is Plans.exe, whatever row now shows it.
+    const clsItem* assigned = index_->Words().Item("PLAN");
+    ASSERT_NE(assigned, nullptr);
+    EXPECT_EQ(assigned->Word, "plan");
+    EXPECT_EQ(assigned->Filename, "Plans.exe");
+    EXPECT_EQ(index_->GetPath(assigned->Directory), "C:\\Music");
+    EXPECT_EQ(wordListRefreshes_, 1);
+    EXPECT_FALSE(IsWindow(form));
+}
+
+TEST_F(MatchesWindowTest, EnterInTheListOpensAsADoubleClickDoes) {
+    MessagePump pump;
+    const HWND clicked = Load();
+    SelectRow(List(clicked), 1);  // the first click of the two
+    RECT row{};
+    ListView_GetItemRect(List(clicked), 1, &row, LVIR_LABEL);
+    SendMessageW(List(clicked), WM_LBUTTONDBLCLK, MK_LBUTTON,
+                 MAKELPARAM(row.left + 2, (row.top + row.bottom) / 2));
+    pump.DoEvents();
+
+    const HWND pressed = Load();
+    SelectRow(List(pressed), 1);
+    PressKey(List(pressed), VK_RETURN);
+    pump.DoEvents();
+
+    ASSERT_EQ(shell_.calls.size(), 2u);
+    EXPECT_FALSE(IsWindow(clicked));
+    EXPECT_FALSE(IsWindow(pressed));
+    for (const RecordingShell::Call& call : shell_.calls) {
+        EXPECT_EQ(call.file, "C:\\Archive\\plan a.qzx");
+        EXPECT_EQ(call.folder, "C:\\Archive");
+    }
+}
+
+TEST_F(MatchesWindowTest, TheDialogKeysOpenTheFocusedListsRowAndEscapeCloses) {
+    const HWND form = ShowMatches("plan", *index_->FindMatch("plan"), Host());
+    SelectRow(List(form), 2);
+    SetFocus(List(form));
+    EXPECT_TRUE(DialogKey(form, List(form), VK_RETURN));
+    ASSERT_EQ(shell_.calls.size(), 1u);
+    EXPECT_EQ(shell_.calls[0].file, "C:\\Music\\Plans.exe");
+    EXPECT_FALSE(IsWindow(form));
+
+    const HWND escaped = Load();
+    EXPECT_TRUE(DialogKey(escaped, List(escaped), VK_ESCAPE));
+    EXPECT_FALSE(IsWindow(escaped));
+    EXPECT_EQ(shell_.calls.size(), 1u);
+    EXPECT_NE(Saved("Width"), "-");
+}
+
+TEST_F(MatchesWindowTest, KeepsItsPlaceInTwipsAndNeverGetsSmallerThan3000) {
+    const HWND designed = Load();
+    const TwipsSize size = OuterTwips(designed);
+    EXPECT_NEAR(size.width, kMatchesDesignedSize.width, 15);
+    EXPECT_NEAR(size.height, kMatchesDesignedSize.height, 15);
+    RECT frame{};
+    GetWindowRect(designed, &frame);
+    DestroyWindow(designed);
+    EXPECT_EQ(Saved("Left"), std::to_string(PixelsToTwips(frame.left, ScreenDpi())));
+    EXPECT_EQ(Saved("Top"), std::to_string(PixelsToTwips(frame.top, ScreenDpi())));
+    EXPECT_EQ(Saved("Width"), std::to_string(size.width));
+    EXPECT_EQ(Saved("Height"), std::to_string(size.height));
+
+    settings_.Save("Matches", "Left", "1500");
+    settings_.Save("Matches", "Top", "1200");
+    settings_.Save("Matches", "Width", "6000");
+    settings_.Save("Matches", "Height", "4500");
+    const HWND restored = Load();
+    GetWindowRect(restored, &frame);
+    EXPECT_NEAR(PixelsToTwips(frame.left, ScreenDpi()), 1500, 15);
+    EXPECT_NEAR(PixelsToTwips(frame.top, ScreenDpi()), 1200, 15);
+    EXPECT_NEAR(OuterTwips(restored).width, 6000, 15);
+    EXPECT_NEAR(OuterTwips(restored).height, 4500, 15);
+
+    // Dragged too small, it snaps back to the minimum, and the controls stay inside.
+    SetWindowPos(restored, nullptr, 0, 0, 50, 40, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    EXPECT_GE(OuterTwips(restored).width, 3000);
+    EXPECT_GE(OuterTwips(restored).height, 3000);
+    EXPECT_LT(OuterTwips(restored).width, 3000 + 15);
+    RECT client{};
+    GetClientRect(restored, &client);
+    for (int id : {kMatchesListId, kMatchesOpenId, kMatchesAssociateId}) {
+        RECT control{};
+        GetWindowRect(GetDlgItem(restored, id), &control);
+        MapWindowPoints(nullptr, restored, reinterpret_cast<POINT*>(&control), 2);
+        EXPECT_LE(control.right, client.right) << id;
+        EXPECT_LE(control.bottom, client.bottom) << id;
+    }
+    DestroyWindow(restored);
+}
+
+TEST_F(MatchesWindowTest, AMinimizedWindowSavesItsMinimizedPlace) {
+    const HWND form = Load();
+    ShowWindow(form, SW_MINIMIZE);
+    ASSERT_TRUE(IsIconic(form));
+    const TwipsSize minimized = OuterTwips(form);
+    DestroyWindow(form);
+    EXPECT_EQ(Saved("Width"), std::to_string(minimized.width));
+    EXPECT_EQ(Saved("Height"), std::to_string(minimized.height));
+    EXPECT_LT(minimized.height, 3000);  // no minimum is forced on a minimized window
+}
+
+TEST_F(MatchesWindowTest, AFailureWhileFillingIsShownAndKeepsTheRowsSoFar) {
+    auto items = std::make_shared<IndexItems>();
+    items->Add("first.qzx", 0);
+    frmMatches& form = frmMatches::Load(Host());
+    const HWND window = form.hwnd();
+    form.Word("first");
+    form.Matches(MatchList(items, {1, 7}));  // the second match refers to no record
+
+    ASSERT_EQ(prompter_.prompts.size(), 1u);
+    EXPECT_EQ(prompter_.prompts[0].title, "Matches");
+    EXPECT_FALSE(prompter_.prompts[0].text.empty());
+    EXPECT_EQ(prompter_.prompts[0].buttons, PromptButtons::Ok);
+    EXPECT_EQ(prompter_.prompts[0].icon, PromptIcon::Critical);
+    EXPECT_EQ(Column(List(window), 0), std::vector<std::string>{"first.qzx"});
+    DestroyWindow(window);
+}
+
+}  // namespace
+}  // namespace quorin
