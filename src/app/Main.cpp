@@ -1,0 +1,94 @@
+#include "app/Main.h"
+
+#include "QuorinVersion.h"
+#include "app/Splash.h"
+#include "platform/Errors.h"
+
+namespace quorin {
+
+namespace {
+
+constexpr std::string_view kMissingIndexText =
+    "Your index file is either missing or corrupted. Would you like to generate a new index file "
+    "now? (Answering no will exit the program.)";
+
+void SetHourglass(bool busy) {
+    SetCursor(LoadCursorW(nullptr, busy ? IDC_WAIT : IDC_ARROW));
+}
+
+}  // namespace
+
+Startup::Startup(StartupServices services) : services_(std::move(services)) {}
+
+Startup::~Startup() = default;
+
+bool Startup::Main() {
+    SetHourglass(true);
+    frmSplash splash;
+    if (services_.showSplash) {
+        splash.Show();
+    }
+    WriteMainSettings();
+    if (WizardActive()) {
+        splash.Unload();
+        return false;
+    }
+    try {
+        mainForm_ = std::make_unique<frmMain>(
+            MainServices{services_.settings, services_.clock, services_.prompter, services_.shell,
+                         services_.index, tray_, services_.matches, services_.options,
+                         services_.programFolder, services_.onUnloaded});
+        SetHourglass(false);
+        splash.Unload();
+        return EnsureIndex();
+    } catch (const Error& error) {
+        // A bad setting or word file: nothing is written, the user's files stay as they are.
+        splash.Unload();
+        mainForm_.reset();
+        services_.index.Release();
+        ReportFatal(error);
+        return false;
+    }
+}
+
+// The separator is appended unconditionally, so a program folder at a drive root, which keeps
+// its own separator ("C:\"), is stored with two.
+void Startup::WriteMainSettings() {
+    std::string folder = services_.programFolder;
+    if (folder.ends_with(':')) {
+        folder += '\\';
+    }
+    services_.settings.Save("Main", "Path", folder + "\\");
+    services_.settings.Save("Main", "VersionMajor", std::to_string(QUORIN_VERSION_MAJOR));
+    services_.settings.Save("Main", "VersionMinor", std::to_string(QUORIN_VERSION_MINOR));
+    services_.settings.Save("Main", "VersionRevision", std::to_string(QUORIN_VERSION_REVISION));
+}
+
+bool Startup::EnsureIndex() {
+    clsIndex& index = services_.index.Get();
+    if (index.LastUpdated == 0) {
+        if (services_.prompter.Ask("Missing index", kMissingIndexText, PromptButtons::YesNo,
+                                   PromptIcon::Question) != PromptAnswer::Yes) {
+            mainForm_->Unload();
+            return false;
+        }
+        SetHourglass(true);
+        mainForm_->Show();
+        index.CreateIndex(false, *mainForm_);
+        SetHourglass(false);
+        if (index.LastUpdated == 0) {
+            mainForm_->Unload();
+            return false;
+        }
+    }
+    mainForm_->EnableTimer();
+    return true;
+}
+
+void Startup::ReportFatal(const std::exception& error) {
+    services_.prompter.Ask("Cannot start Quorin",
+                           std::string(error.what()) + " Quorin cannot start and will close.",
+                           PromptButtons::Ok, PromptIcon::Critical);
+}
+
+}  // namespace quorin

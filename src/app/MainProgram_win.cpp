@@ -1,0 +1,62 @@
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "app/Main.h"
+#include "app/MainInstance.h"
+#include "app/MainMatchesOpener.h"
+#include "app/MainOptionsOpener.h"
+#include "platform/MessageBoxPrompter.h"
+#include "platform/Path.h"
+#include "platform/RegistrySettingsStore.h"
+#include "platform/ShellExecuteShell.h"
+#include "platform/Text.h"
+#include "ui/MessagePump.h"
+
+namespace {
+
+int RunQuorin() {
+    using namespace quorin;
+    const MainInstance instance;
+    if (!instance.IsFirst()) {
+        return 0;
+    }
+    const INITCOMMONCONTROLSEX controls{
+        sizeof(INITCOMMONCONTROLSEX),
+        ICC_STANDARD_CLASSES | ICC_ANIMATE_CLASS | ICC_PROGRESS_CLASS | ICC_LISTVIEW_CLASSES};
+    InitCommonControlsEx(&controls);
+
+    RegistrySettingsStore settings;
+    SystemClock clock;
+    MessageBoxPrompter prompter;
+    ShellExecuteShell shell;
+    MessagePump events;
+    MainOptionsOpener options;
+    const std::string programFolder = ExecutableFolder();
+    LazyIndex index({settings, clock, prompter, events, programFolder});
+    MainMatchesOpener matches(index, shell, settings, prompter);
+    Startup startup({settings, clock, prompter, shell, index, matches, options, programFolder, true,
+                     [] { PostQuitMessage(0); }});
+
+    const bool running = startup.Main();
+    if (!running) {
+        return 0;
+    }
+    frmMain* mainForm = startup.MainForm();
+    prompter.SetOwner(mainForm->hwnd());
+    matches.SetAddWords([mainForm] { mainForm->AddWords(); });
+    matches.SetIcon(
+        reinterpret_cast<HICON>(SendMessageW(mainForm->hwnd(), WM_GETICON, ICON_SMALL, 0)));
+    return MessagePump::Run();
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+    try {
+        return RunQuorin();
+    } catch (const std::exception& error) {
+        MessageBoxW(nullptr, quorin::Widen(error.what()).c_str(), L"Quorin", MB_OK | MB_ICONERROR);
+        return 1;
+    }
+}

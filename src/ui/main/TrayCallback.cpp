@@ -1,0 +1,22 @@
+#include "ui/main/TrayCallback.h"
+
+#include "ui/main/TrayRecord.h"
+
+namespace quorin {
+
+TrayAction DecodeTrayCallback(WPARAM wParam, LPARAM lParam) {
+    if (wParam != kTrayIconId || HIWORD(lParam) != 0) {
+        return TrayAction::None;
+    }
+    switch (LOWORD(lParam)) {
+        case WM_LBUTTONUP:
+        case WM_LBUTTONDBLCLK:
+            return TrayAction::Restore;
+        case WM_RBUTTONUP:
+            return TrayAction::Menu;
+        default:
+            return TrayAction::None;
+    }
+}
+
+}  // namespace quorin

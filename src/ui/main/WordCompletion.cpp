@@ -1,0 +1,29 @@
+#include "ui/main/WordCompletion.h"
+
+namespace quorin {
+
+namespace {
+constexpr int kBackspace = 8;
+constexpr int kDelete = 46;
+}  // namespace
+
+void WordCompletion::KeyDown(int keyCode) {
+    if (keyCode == kBackspace || keyCode == kDelete) {
+        bSkipComplete_ = true;
+    }
+}
+
+std::optional<CompletionEdit> WordCompletion::Change(std::string_view text, int caret,
+                                                     const EntryFinder& findEntry) {
+    if (bSkipComplete_) {
+        bSkipComplete_ = false;
+        return std::nullopt;
+    }
+    std::optional<std::string> entry = findEntry(text);
+    if (!entry) {
+        return std::nullopt;
+    }
+    return CompletionEdit{std::move(*entry), caret};
+}
+
+}  // namespace quorin

@@ -1,0 +1,199 @@
+#pragma once
+
+#include <windows.h>
+
+#include <array>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/modGlobals.h"
+#include "index/IndexProgress.h"
+#include "platform/Clock.h"
+#include "platform/Prompter.h"
+#include "platform/SettingsStore.h"
+#include "platform/Shell.h"
+#include "platform/WinHandles.h"
+#include "ui/Window.h"
+#include "ui/controls/ctlLinkLabel.h"
+#include "ui/controls/ctlTabLabel.h"
+#include "ui/main/MatchesOpener.h"
+#include "ui/main/OptionsOpener.h"
+#include "ui/main/WordCompletion.h"
+#include "ui/main/clsSysTray.h"
+
+namespace quorin {
+
+inline constexpr wchar_t kMainWindowClass[] = L"QuorinMain";
+inline constexpr int kTabCount = 5;
+inline constexpr int kPanelCount = 6;
+inline constexpr int kProgressPanel = 5;
+inline constexpr int kExitTab = 4;
+inline constexpr UINT_PTR kTimer1Id = 1;
+
+// Control ids, so that tests can find the controls of the real window.
+enum MainControlId : int {
+    kIdTab = 100,    // + tab index
+    kIdPanel = 110,  // + panel index
+    kIdWord = 200,
+    kIdGo = IDOK,  // Enter in the window presses Go
+    kIdFile = 201,
+    kIdSearchProgress = 202,
+    kIdLastUpdated = 210,
+    kIdUpdateInterval = 211,
+    kIdUpdate = 212,
+    kIdGeneralOptions = 220,
+    kIdFileTypes = 221,
+    kIdWords = 222,
+    kIdHelp = 230,
+    kIdQuorinPage = 231,
+    kIdVeltaroPage = 232,
+    kIdAnimation = 250,
+    kIdCounter = 251,
+    kIdCancel = 252,
+    kIdMenuGo = 300,
+    kIdMenuExit = 301,
+};
+
+// The web pages of the help panel's links.
+inline constexpr std::string_view kQuorinPage = "https://quorin.example.com/";
+inline constexpr std::string_view kVeltaroPage = "https://veltaro.example.com/";
+
+// What the main window works with; it owns none of it.
+struct MainServices {
+    SettingsStore& settings;
+    const Clock& clock;
+    Prompter& prompter;
+    Shell& shell;
+    LazyIndex& index;
+    clsSysTray& tray;
+    MatchesOpener& matches;
+    OptionsOpener& options;
+    std::string programFolder;         // holds the help file
+    std::function<void()> onUnloaded;  // the program ends with the main window
+};
+
+// The main window: a row of tabs over six stacked panels (word entry, index, options, help,
+// shutdown, and the progress of a build), living in the tray. It is the progress window of the
+// builds it starts and the search progress of Go.
+class frmMain final : public Window, public ProgressWindow, public SearchProgress {
+  public:
+    // Loads the window hidden: layout, remembered position, words and the tray icon.
+    explicit frmMain(MainServices services);
+    ~frmMain() override;
+
+    void Show();
+    // The program's own unload: saves the position, releases the engine, removes the icon.
+    void Unload();
+    void EnableTimer();
+
+    void AddWords();
+    void DisableTabs();
+    void EnableTabs();
+
+    void BeginIndexing(const std::string& animationPath) override;
+    void SetCounter(std::string_view text) override;
+    void EndIndexing() override;
+
+    void Show(int maximum) override;
+    void SetValue(int value) override;
+    void Hide() override;
+
+    // A control of the window by its id, wherever it lies.
+    HWND Control(int id) const;
+    int CurrentTab() const { return currentTab_; }
+    POINT RememberedPosition() const { return {startX_, startY_}; }
+
+  protected:
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  private:
+    void Form_Load();
+    void Form_Activate();
+    bool Form_QueryUnload(bool userClose);  // true cancels the unload
+    void Form_Resize(WPARAM sizeType);
+    void Form_Unload();
+    void Form_MouseMove(WPARAM wParam, LPARAM lParam);
+    void Form_Paint();
+    void OnCommand(int id, int code);
+    void OnDpiChanged(const RECT& suggested);
+
+    void tabLabel_Click(int Index);
+    void cboWord_KeyDown(int KeyCode);
+    void cboWord_Change();
+    void cboWord_GotFocus();
+    void cboWord_LostFocus();
+    void cmdGo_Click();
+    void Timer1_Timer();
+    void lnkUpdate_Click();
+    void lnkCancel_Click();
+    void lnkHelp_Click();
+    void mnuSystrayGo_Click();
+    void mnuSystrayExit_Click();
+
+    void CreateControls();
+    void CreatePanels();
+    void CreateGoPanel();
+    void CreateIndexPanel();
+    void CreateLinkPanels();
+    void CreateProgressPanel();
+    void SubclassWordEdit();
+    void LayOut();
+    void ShowPanel();
+    void Repaint();
+    void ShowInFront();
+    void RestoreFromTray();
+    void StorePosition();
+    void ShowCannotExit();
+    void OpenFile(const std::string& folder, const std::string& fileName,
+                  const std::string& workingFolder);
+    // Adds a child to a panel at a place in twips (a width of 0 keeps the control's own size).
+    HWND AddControl(int panel, const wchar_t* className, std::string_view text, DWORD style, int id,
+                    RECT twips);
+    ctlLinkLabel* AddLink(int panel, int id, std::string_view caption, int left, int top);
+    HICON Icon(int resourceId) const;
+
+    MainServices services_;
+    int dpi_ = 96;
+    std::array<HWND, kPanelCount> picPanel{};
+    std::array<ctlTabLabel*, kTabCount> tabLabel{};
+    HWND lblEnterWord = nullptr;
+    HWND cboWord = nullptr;
+    HWND cmdGo = nullptr;
+    HWND lblFile = nullptr;
+    HWND ProgressBar1 = nullptr;
+    HWND lblIndexLastUpdated = nullptr;
+    HWND lblLastUpdated = nullptr;
+    HWND lblUpdateInterval = nullptr;
+    ctlLinkLabel* lnkUpdate = nullptr;
+    ctlLinkLabel* lnkGeneralOptions = nullptr;
+    ctlLinkLabel* lnkFileTypes = nullptr;
+    ctlLinkLabel* lnkWords = nullptr;
+    ctlLinkLabel* lnkHelp = nullptr;
+    ctlLinkLabel* lnkQuorin = nullptr;
+    ctlLinkLabel* lnkVeltaro = nullptr;
+    HWND lblShutdown = nullptr;
+    HWND Animation1 = nullptr;
+    HWND lblPleaseWait = nullptr;
+    HWND lblFolders = nullptr;
+    HWND lblCounter = nullptr;
+    ctlLinkLabel* lnkCancel = nullptr;
+    struct Placement {
+        HWND control;
+        RECT twips;
+    };
+    std::vector<Placement> placements_;
+    UniqueMenu mnuSystray;
+    UniqueFont font_;
+    UniqueIcon icon_;
+    UniqueIcon indexingIcon_;
+    WordCompletion completion_;
+    int currentTab_ = 0;
+    int startX_ = 0;  // remembered position, twips
+    int startY_ = 0;
+    bool unloaded_ = false;
+    UINT taskbarCreated_ = 0;
+};
+
+}  // namespace quorin

@@ -1,0 +1,126 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/modGlobals.h"
+#include "platform/Clock.h"
+#include "platform/MemorySettingsStore.h"
+#include "platform/Prompter.h"
+#include "platform/Shell.h"
+#include "support/TempFolder.h"
+#include "ui/MessagePump.h"
+#include "ui/main/MatchesOpener.h"
+#include "ui/main/OptionsOpener.h"
+
+namespace quorin::test {
+
+class TestClock final : public Clock {
+  public:
+    double Now() const override { return now; }
+    double now = 45000.5;  // 2023-03-15 12:00:00
+};
+
+// Answers questions from a script (Ok once it runs out) and records every box.
+class ScriptedPrompter final : public Prompter {
+  public:
+    struct Box {
+        std::string title;
+        std::string text;
+        PromptButtons buttons;
+        PromptIcon icon;
+    };
+    PromptAnswer Ask(std::string_view title, std::string_view text, PromptButtons buttons,
+                     PromptIcon icon) override {
+        boxes.push_back({std::string(title), std::string(text), buttons, icon});
+        if (answers.empty()) {
+            return PromptAnswer::Ok;
+        }
+        const PromptAnswer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+    std::deque<PromptAnswer> answers;
+    std::vector<Box> boxes;
+};
+
+class RecordingShell final : public Shell {
+  public:
+    struct Opened {
+        std::string file;
+        std::string parameters;
+        std::string workingFolder;
+        int showCommand;
+    };
+    void Open(std::string_view file, std::string_view parameters, std::string_view workingFolder,
+              int showCommand) override {
+        opened.push_back(
+            {std::string(file), std::string(parameters), std::string(workingFolder), showCommand});
+        if (onOpen) {
+            onOpen();
+        }
+    }
+    std::vector<Opened> opened;
+    std::function<void()> onOpen;
+};
+
+class FakeMatchesOpener final : public MatchesOpener {
+  public:
+    void ShowMatches(const std::string& word, const MatchList& matches) override {
+        words.push_back(word);
+        counts.push_back(matches.Count());
+    }
+    std::vector<std::string> words;
+    std::vector<int> counts;
+};
+
+class FakeOptionsOpener final : public OptionsOpener {
+  public:
+    void ShowOptions(int panel) override { panels.push_back(panel); }
+    std::vector<int> panels;
+};
+
+// The real message pump, with a hook where a build yields, as the user's clicks would come.
+class HookedPump final : public EventPump {
+  public:
+    void DoEvents() override {
+        ++calls;
+        pump.DoEvents();
+        if (onEvents) {
+            onEvents();
+        }
+    }
+    MessagePump pump;
+    std::function<void()> onEvents;
+    int calls = 0;
+};
+
+// A program folder, a tree to index (its root is the only drive) and the program's services.
+class ProgramFixture : public ::testing::Test {
+  protected:
+    ProgramFixture() {
+        settings.Save("Index", "DriveCount", "1");
+        settings.Save("Index", "Drive0", tree.Path());
+        settings.Save("Index", "Filter", "");
+        settings.Save("Index", "FilterIsInclude", "False");
+    }
+
+    TempFolder program;
+    TempFolder tree;
+    MemorySettingsStore settings;
+    TestClock clock;
+    ScriptedPrompter prompter;
+    RecordingShell shell;
+    HookedPump events;
+    LazyIndex index{IndexServices{settings, clock, prompter, events, program.Path()}};
+    FakeMatchesOpener matches;
+    FakeOptionsOpener options;
+    int unloads = 0;
+};
+
+}  // namespace quorin::test

@@ -1,0 +1,400 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "platform/OleDate.h"
+#include "platform/Path.h"
+#include "platform/Text.h"
+#include "ui/Dpi.h"
+#include "ui/main/MainWindowFixture.h"
+
+namespace quorin::test {
+namespace {
+
+std::vector<std::string> ChildTexts(HWND parent) {
+    std::vector<std::string> texts;
+    for (HWND child = GetWindow(parent, GW_CHILD); child != nullptr;
+         child = GetWindow(child, GW_HWNDNEXT)) {
+        if (const std::string text = WindowText(child); !text.empty()) {
+            texts.push_back(text);
+        }
+    }
+    return texts;
+}
+
+RECT ScreenRect(HWND window) {
+    RECT rect{};
+    GetWindowRect(window, &rect);
+    return rect;
+}
+
+int Twips(int pixels, HWND window) {
+    return PixelsToTwips(pixels, WindowDpi(window));
+}
+
+TEST_F(MainWindowTest, LoadsHiddenWithTabsPanelsAndEveryText) {
+    Load();
+    EXPECT_FALSE(IsWindowVisible(Window()));
+    EXPECT_EQ(WindowText(Window()), "Quorin");
+    const RECT frame = ScreenRect(Window());
+    EXPECT_EQ(Twips(frame.bottom - frame.top, Window()), 1500);
+    EXPECT_EQ(Twips(frame.right - frame.left, Window()), 5400);
+
+    RECT previous = ScreenRect(Control(kIdTab));
+    for (int i = 1; i < 4; ++i) {
+        const RECT tab = ScreenRect(Control(kIdTab + i));
+        EXPECT_EQ(tab.left, previous.right) << "tab " << i << " touches the one before";
+        previous = tab;
+    }
+    RECT exitTab = ScreenRect(Control(kIdTab + 4));
+    MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&exitTab), 2);
+    EXPECT_EQ(exitTab.left, frame.right - frame.left - (exitTab.right - exitTab.left) -
+                                TwipsToPixels(60, WindowDpi(Window())))
+        << "60 twips from the outer width";
+
+    RECT client{};
+    GetClientRect(Window(), &client);
+    for (int i = 0; i < kPanelCount; ++i) {
+        HWND panel = GetDlgItem(Window(), kIdPanel + i);
+        RECT place = ScreenRect(panel);
+        MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&place), 2);
+        EXPECT_EQ(place.left, 0);
+        EXPECT_EQ(Twips(place.top, Window()), 240);
+    }
+    EXPECT_EQ(PanelsShown(), (std::vector<bool>{true, false, false, false, false, false}));
+
+    EXPECT_EQ(ChildTexts(Window()),
+              (std::vector<std::string>{"Go", "Index", "Options", "Help", "Exit"}));
+    const auto panelTexts = [this](int i) {
+        return ChildTexts(GetDlgItem(Window(), kIdPanel + i));
+    };
+    EXPECT_EQ(panelTexts(0), (std::vector<std::string>{"Enter word:", "Go"}));
+    EXPECT_EQ(panelTexts(1),
+              (std::vector<std::string>{
+                  "Index last updated:", "Index automatically updated every 1 day(s).",
+                  "Update Index Now"}));
+    EXPECT_EQ(panelTexts(2),
+              (std::vector<std::string>{"General Options", "Change file types that are indexed",
+                                        "Add/delete assigned words"}));
+    EXPECT_EQ(panelTexts(3),
+              (std::vector<std::string>{"Click here for help", "Quorin", "Veltaro, Inc."}));
+    EXPECT_EQ(panelTexts(4), (std::vector<std::string>{"Please wait while Quorin shuts down..."}));
+    EXPECT_EQ(panelTexts(5),
+              (std::vector<std::string>{
+                  "Please wait while Quorin indexes your hard drive. Depending on how much stuff "
+                  "you have, this may take a few minutes...",
+                  "# of folders indexed:", "Cancel"}));
+
+    const TrayRecord& record = tray.Record();
+    EXPECT_EQ(TrayTip(record), "Quorin");
+    EXPECT_EQ(record.hWnd, static_cast<uint32_t>(reinterpret_cast<uintptr_t>(Window())));
+    EXPECT_NE(record.hIcon, 0u);
+}
+
+TEST_F(MainWindowTest, TabsShowTheirPanelsAndTheLinksDoTheirWork) {
+    Load();
+    settings.Save("Index", "Interval", "36");
+    index.Get().UpdateSettings();
+    ClickTab(1);
+    EXPECT_EQ(PanelsShown(), (std::vector<bool>{false, true, false, false, false, false}));
+    EXPECT_EQ(Text(kIdUpdateInterval), "The index is automatically updated every 36 hour(s).");
+    EXPECT_EQ(Text(kIdLastUpdated), FormatLocalDateTime(0));
+    Build();
+    ClickTab(1);
+    EXPECT_EQ(Text(kIdLastUpdated), FormatLocalDateTime(index.Get().LastUpdated))
+        << "refreshed on every click";
+
+    ClickTab(2);
+    EXPECT_EQ(PanelsShown(), (std::vector<bool>{false, false, true, false, false, false}));
+    Command(kIdGeneralOptions);
+    Command(kIdFileTypes);
+    Command(kIdWords);
+    EXPECT_EQ(options.panels, (std::vector<int>{0, 1, 2}));
+
+    ClickTab(3);
+    Command(kIdQuorinPage);
+    Command(kIdVeltaroPage);
+    ASSERT_EQ(shell.opened.size(), 2u);
+    EXPECT_EQ(shell.opened[0].file, kQuorinPage);
+    EXPECT_EQ(shell.opened[1].file, kVeltaroPage);
+    EXPECT_EQ(shell.opened[1].showCommand, 5);
+    EXPECT_EQ(unloads, 0);
+}
+
+TEST_F(MainWindowTest, ExitTabUnloadsSavingThePositionAndRemovingTheEngine) {
+    Load();
+    SetWindowPos(Window(), nullptr, 150, 90, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    HWND window = Window();
+    index.Get();
+    ClickTab(4);
+    EXPECT_EQ(unloads, 1);
+    EXPECT_FALSE(IsWindow(window));
+    EXPECT_FALSE(index.Exists());
+    EXPECT_EQ(settings.Get("Main", "StartX", ""), std::to_string(PixelsToTwips(150, ScreenDpi())));
+    EXPECT_EQ(settings.Get("Main", "StartY", ""), std::to_string(PixelsToTwips(90, ScreenDpi())));
+}
+
+TEST_F(MainWindowTest, CloseAndMinimiseHideAndTheTrayBringsTheWindowBackInPlace) {
+    settings.Save("Main", "StartX", "3000");
+    settings.Save("Main", "StartY", "1500");
+    Load();
+    const int dpi = WindowDpi(Window());
+    EXPECT_EQ(ScreenRect(Window()).left, TwipsToPixels(3000, dpi)) << "remembered position";
+
+    // A real mouse move over the window is not a tray click.
+    SendMessageW(Window(), WM_MOUSEMOVE, 0, MAKELPARAM(WM_LBUTTONUP, 0));
+    SendMessageW(Window(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(WM_LBUTTONUP, 3));
+    EXPECT_FALSE(IsWindowVisible(Window()));
+
+    Tray(WM_LBUTTONUP);
+    ASSERT_TRUE(IsWindowVisible(Window()));
+    SetWindowPos(Window(), nullptr, 200, 120, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    SendMessageW(Window(), WM_CLOSE, 0, 0);
+    EXPECT_FALSE(IsWindowVisible(Window()));
+    EXPECT_TRUE(IsWindow(Window())) << "the close box only hides";
+    EXPECT_EQ(unloads, 0);
+
+    Tray(WM_LBUTTONDBLCLK);
+    EXPECT_TRUE(IsWindowVisible(Window()));
+    EXPECT_FALSE(IsIconic(Window()));
+    EXPECT_EQ(ScreenRect(Window()).left, 200);
+    EXPECT_EQ(ScreenRect(Window()).top, 120);
+
+    SetWindowPos(Window(), nullptr, 250, 130, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    Tray(WM_LBUTTONUP);
+    EXPECT_EQ(ScreenRect(Window()).left, 250) << "a visible window is only brought forward";
+
+    SendMessageW(Window(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
+    EXPECT_FALSE(IsWindowVisible(Window()));
+    SendMessageW(Window(), WM_CLOSE, 0, 0);  // while minimised: the position is kept
+    Tray(WM_LBUTTONUP);
+    EXPECT_TRUE(IsWindowVisible(Window()));
+    EXPECT_FALSE(IsIconic(Window()));
+
+    SendMessageW(Window(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
+    form->Unload();
+    EXPECT_EQ(settings.Get("Main", "StartX", ""), std::to_string(PixelsToTwips(200, dpi)))
+        << "the position stored at the last close before minimising";
+}
+
+TEST_F(MainWindowTest, TrayMenuGoSelectsTheGoTabAndShowsTheWindow) {
+    Load();
+    ClickTab(2);
+    Command(kIdMenuGo);
+    EXPECT_TRUE(IsWindowVisible(Window()));
+    EXPECT_EQ(form->CurrentTab(), 0);
+    EXPECT_EQ(PanelsShown(), (std::vector<bool>{true, false, false, false, false, false}));
+}
+
+TEST_F(MainWindowTest, ABuildDisablesTabsShowsProgressOnTopAndRefusesToExit) {
+    tree.WriteFile("docs/a.txt", "a");
+    Load();
+    std::vector<bool> tabsEnabled;
+    bool progressOnTop = false;
+    std::string tip;
+    events.onEvents = [&] {
+        if (!tip.empty()) {
+            return;
+        }
+        tip = std::string(TrayTip(tray.Record()));
+        for (int i = 0; i < kTabCount; ++i) {
+            tabsEnabled.push_back(IsWindowEnabled(Control(kIdTab + i)) != FALSE);
+        }
+        progressOnTop =
+            PanelShown(kProgressPanel) && GetWindow(GetDlgItem(Window(), kIdPanel), GW_HWNDFIRST) ==
+                                              GetDlgItem(Window(), kIdPanel + kProgressPanel);
+        Command(kIdMenuExit);
+    };
+    Build();
+    EXPECT_EQ(tip, "Quorin (indexing...)");
+    EXPECT_EQ(tabsEnabled, std::vector<bool>(kTabCount, false));
+    EXPECT_TRUE(progressOnTop);
+    ASSERT_EQ(prompter.boxes.size(), 1u);
+    EXPECT_EQ(prompter.boxes[0].title, "Cannot exit");
+    EXPECT_EQ(prompter.boxes[0].text,
+              "You cannot exit the program while it is indexing. Cancel the indexing then exit "
+              "the program.");
+    EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Information);
+    EXPECT_TRUE(IsWindowVisible(Window())) << "shown for the message";
+    EXPECT_EQ(unloads, 0);
+    EXPECT_NE(index.Get().LastUpdated, 0) << "the build went on";
+
+    EXPECT_EQ(TrayTip(tray.Record()), "Quorin");
+    EXPECT_FALSE(PanelShown(kProgressPanel));
+    EXPECT_TRUE(IsWindowEnabled(Control(kIdTab)));
+    EXPECT_EQ(Text(kIdCounter), "Saving...");
+
+    Command(kIdMenuExit);
+    EXPECT_EQ(unloads, 1) << "no build: the exit entry ends the program";
+}
+
+TEST_F(MainWindowTest, TheTimerRebuildsOnlyAfterAFullDay) {
+    Load();
+    Build();
+    const double built = index.Get().LastUpdated;
+    ASSERT_EQ(built, clock.now);
+    index.Get().UpdateInterval = 1;  // shown to the user, never used by the timer
+
+    clock.now = built + 23.0 / 24.0;
+    SendMessageW(Window(), WM_TIMER, kTimer1Id, 0);
+    EXPECT_EQ(index.Get().LastUpdated, built);
+
+    clock.now = built + 1.0 + 1.0 / 86400.0;
+    SendMessageW(Window(), WM_TIMER, kTimer1Id, 0);
+    EXPECT_EQ(index.Get().LastUpdated, clock.now);
+}
+
+class GoTest : public MainWindowTest {
+  protected:
+    void SetUp() override {
+        tree.WriteFile("notes.txt", "n");
+        tree.WriteFile("alpha1.doc", "a");
+        tree.WriteFile("alpha2.doc", "a");
+        Load();
+        Build();
+        form->Show();
+    }
+    void AssignWord(const std::string& word, const std::string& fileName) {
+        clsIndex& engine = index.Get();
+        engine.AddWord({word, fileName, *engine.GetDirectory(tree.Path()), {}});
+        form->AddWords();
+    }
+};
+
+TEST_F(GoTest, AnEmptyBoxOrAWordWithoutMatchesDoesNothing) {
+    Command(kIdGo);
+    SetWord("zzz");
+    Command(kIdGo);
+    EXPECT_TRUE(shell.opened.empty());
+    EXPECT_TRUE(matches.words.empty());
+    EXPECT_TRUE(IsWindowVisible(Window()));
+}
+
+TEST_F(GoTest, AnAssignedWordWinsOverTheIndexAndHidesTheWindow) {
+    AssignWord("notes", "alpha1.doc");
+    std::string captionWhileOpening;
+    shell.onOpen = [&] { captionWhileOpening = Text(kIdFile); };
+    SetWindowPos(Window(), nullptr, 210, 170, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    SetWord("NOTES");
+    Command(kIdGo);
+    ASSERT_EQ(shell.opened.size(), 1u);
+    EXPECT_EQ(shell.opened[0].file, JoinPath(tree.Path(), "alpha1.doc"));
+    EXPECT_EQ(shell.opened[0].workingFolder, tree.Path() + "\\");
+    EXPECT_EQ(shell.opened[0].parameters, "");
+    EXPECT_EQ(shell.opened[0].showCommand, 5);
+    EXPECT_EQ(captionWhileOpening, "Opening NOTES...");
+    EXPECT_EQ(Text(kIdFile), "");
+    EXPECT_FALSE(IsWindowVisible(Window()));
+    const int dpi = WindowDpi(Window());
+    EXPECT_EQ(form->RememberedPosition().x, PixelsToTwips(210, dpi));
+    EXPECT_EQ(form->RememberedPosition().y, PixelsToTwips(170, dpi));
+}
+
+TEST_F(GoTest, OneMatchOpensAndLeavesTheWindowAsItIs) {
+    SetWord("notes");
+    Command(kIdGo);
+    ASSERT_EQ(shell.opened.size(), 1u);
+    EXPECT_EQ(shell.opened[0].file, JoinPath(tree.Path(), "notes.txt"));
+    EXPECT_EQ(shell.opened[0].workingFolder, tree.Path()) << "no trailing separator here";
+    EXPECT_TRUE(IsWindowVisible(Window()));
+    EXPECT_EQ(Text(kIdWord), "notes");
+    EXPECT_FALSE(IsWindowVisible(Control(kIdSearchProgress))) << "the search bar goes again";
+}
+
+TEST_F(GoTest, SeveralMatchesGoToTheMatchesWindowAndHideTheMainWindow) {
+    SetWord("alpha");
+    SendMessageW(GetWindow(Control(kIdWord), GW_CHILD), WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_EQ(matches.words, std::vector<std::string>{"alpha"}) << "Enter in the box is Go";
+    EXPECT_EQ(matches.counts, std::vector<int>{2});
+    EXPECT_TRUE(shell.opened.empty());
+    EXPECT_FALSE(IsWindowVisible(Window()));
+}
+
+class CompletionTest : public MainWindowTest {
+  protected:
+    void SetUp() override { Load(); }
+    void Assign(const std::vector<std::string>& words) {
+        clsIndex& engine = index.Get();
+        for (const std::string& word : words) {
+            engine.AddWord({word, word + ".exe", 0, {}});
+        }
+        form->AddWords();
+    }
+    HWND Edit() const { return GetWindow(Control(kIdWord), GW_CHILD); }
+    void Type(std::string_view keys) {
+        for (const char key : keys) {
+            SendMessageW(Edit(), WM_CHAR, static_cast<WPARAM>(key), 0);
+        }
+    }
+    void Press(WPARAM key) {
+        SendMessageW(Edit(), WM_KEYDOWN, key, 0);
+        if (key == VK_BACK) {
+            SendMessageW(Edit(), WM_CHAR, L'\b', 0);
+        }
+    }
+    // The text with the selection marked: "No[tepad]".
+    std::string Shown() const {
+        DWORD start = 0;
+        DWORD end = 0;
+        SendMessageW(Control(kIdWord), CB_GETEDITSEL, reinterpret_cast<WPARAM>(&start),
+                     reinterpret_cast<LPARAM>(&end));
+        const std::string text = Text(kIdWord);
+        return text.substr(0, start) + "[" + text.substr(start, end - start) + "]" +
+               text.substr(end);
+    }
+};
+
+TEST_F(CompletionTest, TypingCompletesWithTheEntryAndSelectsTheTail) {
+    Assign({"Notepad"});
+    Type("n");
+    EXPECT_EQ(Shown(), "N[otepad]");
+    Type("o");
+    EXPECT_EQ(Shown(), "No[tepad]");
+    SetWord("");
+    Type("NOTE");
+    EXPECT_EQ(Shown(), "Note[pad]") << "the entry's capitalisation wins";
+}
+
+TEST_F(CompletionTest, BackspaceAndDeleteLetTheUserRemoveTheTail) {
+    Assign({"Notepad"});
+    Type("no");
+    Press(VK_BACK);
+    EXPECT_EQ(Shown(), "No[]");
+    Type("t");
+    EXPECT_EQ(Shown(), "Not[epad]") << "a further letter completes again";
+    Press(VK_DELETE);
+    EXPECT_EQ(Shown(), "Not[]");
+}
+
+TEST_F(CompletionTest, NoEntryLeavesTheTextAndTheTopEntryWins) {
+    Type("no");
+    EXPECT_EQ(Shown(), "no[]") << "an empty list never completes";
+    Assign({"Notes", "Notepad"});
+    SetWord("");
+    Type("xy");
+    EXPECT_EQ(Shown(), "xy[]");
+    SetWord("");
+    Type("note");
+    EXPECT_EQ(Shown(), "Note[s]") << "the entry nearer the top";
+}
+
+TEST_F(CompletionTest, FocusShowsTheTooltipColoursAndSelectsAll) {
+    SetWord("word");
+    form->Show();
+    SetForegroundWindow(Window());
+    SetFocus(Control(kIdWord));
+    EXPECT_EQ(Shown(), "[word]");
+    HDC dc = GetDC(Edit());
+    EXPECT_EQ(FocusColors(Edit(), dc), GetSysColorBrush(COLOR_INFOBK));
+    EXPECT_EQ(GetTextColor(dc), GetSysColor(COLOR_INFOTEXT));
+    EXPECT_EQ(SendMessageW(Control(kIdWord), WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc),
+                           reinterpret_cast<LPARAM>(Edit())),
+              reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_INFOBK)))
+        << "the colours reach the edit field through the combo box and the panel";
+    SetFocus(Window());
+    EXPECT_EQ(FocusColors(Edit(), dc), nullptr) << "the window colours again";
+    ReleaseDC(Edit(), dc);
+}
+
+}  // namespace
+}  // namespace quorin::test
