@@ -207,7 +207,7 @@ void LabelWindow::Paint(HDC dc) {
     ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &area, nullptr, 0, nullptr);
 
     const SelectedObject font(dc, fonts_.Get(look.bold, model_.Underlined()));
-    SetTextColor(dc, Enabled() ? ResolveColor(look.text) : GetSysColor(COLOR_GRAYTEXT));
+    SetTextColor(dc, ResolveColor(Enabled() ? look.text : look.disabledText));
     SetBkMode(dc, TRANSPARENT);
     const std::wstring text = Widen(Caption());
     DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &area,

@@ -21,16 +21,18 @@ inline constexpr WORD kLabelClick = 0;
 // The caption of a label created without one (a null window name).
 inline constexpr std::string_view kDefaultCaption = "LinkLabel";
 
-// What a label paints with; the concrete control chooses.
+// What a label paints with; the concrete control chooses. The caption is in `text` while the
+// label is enabled and in `disabledText` while it is not.
 struct LabelLook {
     OleColor text;
+    OleColor disabledText;
     OleColor back;
     bool bold;
 };
 
 // What the tab and link labels share. The caption is the window text (WM_SETTEXT and
 // WM_GETTEXT work as for any control). Enabled is the window's enabled state: a disabled label
-// draws its caption in the grey text colour and ignores the mouse. The font is the one the
+// draws its caption in its look's disabled colour and ignores the mouse. The font is the one the
 // parent sends with WM_SETFONT, or else the system message font. Any mouse button presses.
 class LabelWindow : public Window {
   public:

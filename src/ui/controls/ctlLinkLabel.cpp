@@ -31,7 +31,7 @@ void ctlLinkLabel::SetBackColor(OleColor color) {
 }
 
 LabelLook ctlLinkLabel::Look() const {
-    return {kLinkBlue, backColor_, false};
+    return {kLinkBlue, SystemColor(COLOR_GRAYTEXT), backColor_, false};
 }
 
 bool ctlLinkLabel::Inside(int x, int y, int width, int height) const {

@@ -36,9 +36,13 @@ void ctlTabLabel::SetSelected(bool selected) {
 
 LabelLook ctlTabLabel::Look() const {
     if (Selected()) {
-        return {SystemColor(COLOR_BTNTEXT), SystemColor(COLOR_BTNFACE), bold_};
+        return {SystemColor(COLOR_BTNTEXT), SystemColor(COLOR_GRAYTEXT), SystemColor(COLOR_BTNFACE),
+                bold_};
     }
-    return {SystemColor(COLOR_HIGHLIGHTTEXT), SystemColor(COLOR_BTNSHADOW), bold_};
+    // Grey text would all but vanish on the shadow; a light colour dimmer than the highlight
+    // text still reads as a disabled tab.
+    return {SystemColor(COLOR_HIGHLIGHTTEXT), SystemColor(COLOR_3DLIGHT),
+            SystemColor(COLOR_BTNSHADOW), bold_};
 }
 
 bool ctlTabLabel::Inside(int x, int y, int width, int height) const {

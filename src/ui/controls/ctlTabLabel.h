@@ -10,7 +10,8 @@ namespace quorin {
 
 // One flat tab of a tab row. Unselected: the caption in the highlight text colour on the
 // button shadow colour, underlined while the pointer is over it. Selected: bold button text on
-// the button face, never underlined, so that it looks raised into the panel beneath. Pressing
+// the button face, never underlined, so that it looks raised into the panel beneath. Disabled:
+// the unselected caption in the 3D light colour, the selected one in grey text. Pressing
 // and releasing the mouse selects the tab and raises Click (see kLabelClick), wherever the
 // release happens. Selecting a tab deselects every other tab label of the same top-level
 // window, those inside panels too, and touches no other control.

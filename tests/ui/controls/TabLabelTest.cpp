@@ -60,6 +60,22 @@ TEST_F(TabLabelTest, SelectedTabIsButtonTextOnTheFaceAndTheOthersLightOnTheShado
     EXPECT_TRUE(Shows(index.hwnd(), GetSysColor(COLOR_HIGHLIGHTTEXT)));
 }
 
+TEST_F(TabLabelTest, DisabledCaptionsStayReadableYetDimmerThanEnabledOnes) {
+    go.SetEnabled(false);
+    index.SetEnabled(false);
+
+    EXPECT_EQ(test::Render(go.hwnd())[0], GetSysColor(COLOR_BTNFACE));
+    EXPECT_TRUE(Shows(go.hwnd(), GetSysColor(COLOR_GRAYTEXT)));
+    EXPECT_FALSE(Shows(go.hwnd(), GetSysColor(COLOR_BTNTEXT)));
+    // Grey text on the shadow could hardly be seen: the light colour must be used instead.
+    EXPECT_EQ(test::Render(index.hwnd())[0], GetSysColor(COLOR_BTNSHADOW));
+    EXPECT_TRUE(Shows(index.hwnd(), GetSysColor(COLOR_3DLIGHT)));
+    EXPECT_FALSE(Shows(index.hwnd(), GetSysColor(COLOR_HIGHLIGHTTEXT)));
+
+    index.SetEnabled(true);
+    EXPECT_TRUE(Shows(index.hwnd(), GetSysColor(COLOR_HIGHLIGHTTEXT)));
+}
+
 TEST_F(TabLabelTest, SizeIsThatOfTheBoldCaptionWithABlankEachSideAtEachResize) {
     ctlLinkLabel& plain = ctlLinkLabel::Create(parent.hwnd(), 9, "Index", 0, 100);
     EXPECT_GT(indexSize.cx, ClientSize(plain.hwnd()).cx);
