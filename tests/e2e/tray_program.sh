@@ -9,24 +9,10 @@ set -euo pipefail
 exe_folder=$1
 work=$2
 shots=${3:-$work/screenshots}
-here=$(cd "$(dirname "$0")/../.." && pwd)
-: "${DISPLAY:?needs an X display}"
+tree=$work/wineprefix/drive_c/e2e-tree
+. "$(dirname "$0")/lib.sh"
+prepare_program
 
-export WINEPREFIX=$work/wineprefix
-export WINEDEBUG=-all
-export WINEDLLOVERRIDES="mscoree,mshtml="
-program=$work/program
-tree=$WINEPREFIX/drive_c/e2e-tree
-rm -rf "$program" "$shots"
-mkdir -p "$program" "$shots"
-cp "$exe_folder/quorin.exe" "$exe_folder/findfile.avi" "$exe_folder/qn.HLP" "$program/"
-
-fail() { echo "FAIL: $*" >&2; exit 1; }
-shot() { import -display "$DISPLAY" -window root "$shots/$1.png"; }
-stop() { wineserver -k 2>/dev/null || true; }
-trap stop EXIT
-
-"$here/scripts/wine-run" --prefix "$WINEPREFIX" reg delete 'HKCU\Software\Quorin' /f >/dev/null 2>&1 || true
 # A tree big enough for the progress panel to be seen: 80 x 40 folders.
 if [ ! -d "$tree/dir80" ]; then
     for a in $(seq 1 80); do
@@ -34,23 +20,17 @@ if [ ! -d "$tree/dir80" ]; then
         touch "$tree/dir$a/notes$a.txt"
     done
 fi
-reg() { wine reg add 'HKCU\Software\Quorin\Index' /v "$1" /d "$2" /f >/dev/null; }
-reg DriveCount 1
-reg Drive0 'C:\e2e-tree'
-reg Filter ''
-reg FilterIsInclude False
+set_index_setting DriveCount 1
+set_index_setting Drive0 'C:\e2e-tree'
+set_index_setting Filter ''
+set_index_setting FilterIsInclude False
 wineserver -w
 
 # Two assigned words for the completion; their folder is indexed by the first build.
 printf 'Notepad\r\nC:\\e2e-tree\\dir1\r\nnotes1.txt\r\nNotes\r\nC:\\e2e-tree\\dir2\r\nnotes2.txt\r\n' \
     >"$program/words.txt"
 
-wine explorer /desktop=quorin,1280x800 "Z:${program//\//\\}\\quorin.exe" &
-desktop=$!
-# The main window is centred on the 1280 x 800 desktop; these are its tabs and the tray icon.
-click() { xdotool mousemove "$1" "$2" click "${3:-1}"; sleep 1.5; }
-crop_main() { convert "$shots/$1.png" -crop 380x120+450+340 +repage "$shots/$1.png"; }
-xdotool mousemove 640 200
+start_program
 sleep 10
 shot start
 [ ! -f "$program/index.txt" ] || fail "an index before the question was answered"
@@ -59,11 +39,7 @@ shot start
 xdotool key Return
 sleep 0.8
 shot main-progress
-for _ in $(seq 120); do
-    [ -f "$program/index.txt" ] && break
-    sleep 1
-done
-[ -f "$program/index.txt" ] || fail "no index.txt after answering Yes"
+wait_for_index
 head -1 "$program/index.txt" | grep -Eq '^[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9:]{8}' || fail "index.txt has no date"
 grep -q 'notes17.txt' "$program/index.txt" || fail "index.txt misses a file of the tree"
 sleep 2
@@ -84,12 +60,7 @@ click 1270 790 3
 shot tray-menu
 xdotool key Escape
 sleep 1
-click 803 379
-for _ in $(seq 30); do
-    kill -0 "$desktop" 2>/dev/null || break
-    sleep 1
-done
-! kill -0 "$desktop" 2>/dev/null || fail "the Exit tab did not end the program"
+exit_program
 wine reg query 'HKCU\Software\Quorin\Main' /v StartX >/dev/null 2>&1 || fail "the exit saved no position"
 wine reg query 'HKCU\Software\Quorin\Main' /v Path >/dev/null 2>&1 || fail "start-up recorded no path"
 for name in main-progress main-go completion main-index main-options main-help; do

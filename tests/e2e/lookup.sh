@@ -1,0 +1,93 @@
+#!/usr/bin/env bash
+# The lookup end to end: quorin.exe indexes a small tree, a word with one match opens its file
+# and leaves the main window up, a word with two matches shows "Multiple Matches", the first row
+# is opened with "Always associate this word with this item" checked, and the same word typed
+# again opens that file at once. Files open through a file type registered in the prefix whose
+# "open" command writes the opened path to a marker file.
+# Usage: lookup.sh EXE_FOLDER WORK_FOLDER [SCREENSHOT_FOLDER]
+# Needs DISPLAY (an Xvfb of 1280x800, see scripts/with-xvfb); uses its own Wine prefix in
+# WORK_FOLDER.
+set -euo pipefail
+exe_folder=$1
+work=$2
+shots=${3:-$work/screenshots}
+. "$(dirname "$0")/lib.sh"
+prepare_program
+
+tree=$work/tree
+marker=$work/marker.txt
+rm -rf "$tree" "$marker"
+mkdir -p "$tree/papers"
+touch "$tree/papers/alpha report.qzo" "$tree/papers/alpha notes.qzo" \
+    "$tree/papers/alpha draft.txt" "$tree/beta plan.qzo"
+
+set_index_setting DriveCount 1
+set_index_setting Drive0 "$(windows_path "$tree")"
+set_index_setting Filter '.QZO '
+set_index_setting FilterIsInclude True
+# Under this Wine, user classes are not merged into the classes root; the type goes there.
+wine reg add 'HKCR\.qzo' /ve /d QuorinLookupTest /f >/dev/null
+wine reg add 'HKCR\QuorinLookupTest\shell\open\command' /ve \
+    /d "cmd /c echo %1> $(windows_path "$marker")" /f >/dev/null
+wine reg add 'HKCR\QuorinLookupTest\DefaultIcon' /ve /d '%SystemRoot%\system32\notepad.exe,0' \
+    /f >/dev/null
+wineserver -w
+
+# The main window's word box, emptied and given a word, then Go through Enter.
+go() {
+    click 620 405
+    xdotool key ctrl+a BackSpace
+    xdotool type --delay 100 "$1"
+    sleep 0.5
+    xdotool key Return
+}
+opened() { [ -s "$marker" ] && grep -qF "$1" "$marker"; }
+matches_shown() { window_shown '^Multiple Matches$'; }
+matches_gone() { ! matches_shown; }
+main_hidden() { ! window_shown '^Quorin$'; }
+
+start_program
+wait_until 40 "no \"Missing index\" question at start" window_shown '^Missing index$'
+xdotool key Return
+wait_for_index
+grep -q 'alpha report.qzo' "$program/index.txt" || fail "index.txt misses alpha report.qzo"
+! grep -q 'alpha draft.txt' "$program/index.txt" || fail "the filter let alpha draft.txt in"
+# Matches come in index order, so the first row is the first of the two in index.txt.
+first=$(tr -d '\r' <"$program/index.txt" | grep -m1 -E '^alpha (report|notes)\.qzo$') ||
+    fail "index.txt misses the alpha files"
+sleep 2
+
+go beta
+wait_until 20 "one match did not open beta plan.qzo" opened 'beta plan.qzo'
+sleep 1.5
+! matches_shown || fail "one match showed the Matches window"
+window_shown '^Quorin$' || fail "the main window went away after one match"
+shot main-after-go
+crop_main main-after-go
+rm -f "$marker"
+
+go alpha
+wait_until 20 "two matches showed no Matches window" matches_shown
+sleep 1
+matches=$(xdotool search --onlyvisible --name '^Multiple Matches$' | head -1)
+import -display "$DISPLAY" -window "$matches" "$shots/matches-live.png"
+[ ! -e "$marker" ] || fail "two matches opened a file without a choice"
+main_hidden || fail "the main window stayed up beside the Matches window"
+# The list has the focus; the check box is next in tab order, and Enter there presses Open.
+xdotool key Tab space Return
+wait_until 20 "Open did not open $first" opened "$first"
+wait_until 10 "the Matches window stayed after Open" matches_gone
+tr -d '\r' <"$program/words.txt" >"$work/words.lf"
+grep -qx alpha "$work/words.lf" || fail "words.txt holds no word alpha"
+grep -Fqx "$(windows_path "$tree")\\papers" "$work/words.lf" || fail "words.txt holds no folder of alpha"
+grep -Fqx "$first" "$work/words.lf" || fail "words.txt does not name $first"
+rm -f "$marker"
+
+click 1270 790
+wait_until 10 "a tray click did not bring the main window back" window_shown '^Quorin$'
+go alpha
+wait_until 20 "the assigned word did not open $first" opened "$first"
+wait_until 10 "the main window stayed up after the assigned word opened its file" main_hidden
+sleep 1
+! matches_shown || fail "the assigned word showed the Matches window"
+echo "PASS"
