@@ -10,6 +10,7 @@
 #include "platform/Text.h"
 #include "resource.h"
 #include "ui/Dpi.h"
+#include "ui/MessagePump.h"
 #include "ui/PaintDc.h"
 #include "ui/WindowClass.h"
 #include "ui/main/MainLayout.h"
@@ -132,6 +133,8 @@ void frmMain::Form_Load() {
     SetWindowPos(hwnd(), nullptr, TwipsToPixels(startX_, dpi_), TwipsToPixels(startY_, dpi_), 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     AddWords();
+    // Let the word list and the layout settle before the icon invites the first click.
+    MessagePump().DoEvents();
     services_.tray.CreateIcon(hwnd(), icon_.get(), kTip);
 }
 
