@@ -104,14 +104,14 @@ HelpViewer::HelpViewer() {
 
 void HelpViewer::ShowTopic(const HelpTopic& topic, const RECT& place) {
     if (!IsOpen()) {
-        WindowSpec spec;
-        spec.title = "Quorin Help";
-        spec.style = WS_OVERLAPPEDWINDOW;
-        spec.x = place.left;
-        spec.y = place.top;
-        spec.width = place.right - place.left;
-        spec.height = place.bottom - place.top;
-        Create(kHelpViewerClass, spec);
+        WindowSpec layout;
+        layout.title = "Quorin Help";
+        layout.style = WS_OVERLAPPEDWINDOW;
+        layout.x = place.left;
+        layout.y = place.top;
+        layout.width = place.right - place.left;
+        layout.height = place.bottom - place.top;
+        Create(kHelpViewerClass, layout);
     }
     SetTopicText(topic);
     ShowWindow(hwnd(), IsIconic(hwnd()) ? SW_RESTORE : SW_SHOW);

@@ -72,14 +72,14 @@ void frmSplash::Show() {
     RECT workArea{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &workArea, 0);
 
-    WindowSpec spec;
-    spec.title = "Quorin";
-    spec.style = style;
-    spec.width = frame.right - frame.left;
-    spec.height = frame.bottom - frame.top;
-    spec.x = workArea.left + (workArea.right - workArea.left - spec.width) / 2;
-    spec.y = workArea.top + (workArea.bottom - workArea.top - spec.height) / 2;
-    Create(kSplashClass, spec);
+    WindowSpec layout;
+    layout.title = "Quorin";
+    layout.style = style;
+    layout.width = frame.right - frame.left;
+    layout.height = frame.bottom - frame.top;
+    layout.x = workArea.left + (workArea.right - workArea.left - layout.width) / 2;
+    layout.y = workArea.top + (workArea.bottom - workArea.top - layout.height) / 2;
+    Create(kSplashClass, layout);
     ShowWindow(hwnd(), SW_SHOW);
     SetFocus(cmdOK_);
     UpdateWindow(hwnd());

@@ -28,18 +28,18 @@ LRESULT CALLBACK Window::Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARA
     return Route(hwnd, message, wParam, lParam);
 }
 
-void Window::Create(const wchar_t* className, const WindowSpec& spec) {
-    CreateHandle(className, spec, this);
+void Window::Create(const wchar_t* className, const WindowSpec& layout) {
+    CreateHandle(className, layout, this);
 }
 
-HWND Window::CreateHandle(const wchar_t* className, const WindowSpec& spec, void* param) {
-    const std::wstring title = Widen(spec.title);
-    const HWND window = CreateWindowExW(spec.exStyle, className, title.c_str(), spec.style, spec.x,
-                                        spec.y, spec.width, spec.height, spec.parent,
-                                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(spec.id)),
+HWND Window::CreateHandle(const wchar_t* className, const WindowSpec& layout, void* param) {
+    const std::wstring title = Widen(layout.title);
+    const HWND window = CreateWindowExW(layout.exStyle, className, title.c_str(), layout.style, layout.x,
+                                        layout.y, layout.width, layout.height, layout.parent,
+                                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(layout.id)),
                                         GetModuleHandleW(nullptr), param);
     if (window == nullptr) {
-        throw Error("The window \"" + std::string(spec.title) +
+        throw Error("The window \"" + std::string(layout.title) +
                     "\" could not be created: " + LastOsErrorText() + ".");
     }
     return window;

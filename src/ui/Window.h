@@ -61,10 +61,10 @@ class Window {
 
     // Creates this object's window of a class registered with Window::Procedure.
     // Throws Error when the window cannot be created.
-    void Create(const wchar_t* className, const WindowSpec& spec);
+    void Create(const wchar_t* className, const WindowSpec& layout);
 
     // CreateWindowExW with these values; `param` reaches WM_NCCREATE. Throws Error on failure.
-    static HWND CreateHandle(const wchar_t* className, const WindowSpec& spec, void* param);
+    static HWND CreateHandle(const wchar_t* className, const WindowSpec& layout, void* param);
 
     // The object bound to a window. Only for windows whose class uses one of the procedures
     // above: any other window keeps something else in its user data.
