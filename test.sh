@@ -7,5 +7,6 @@ scripts/install-deps
 scripts/build native
 scripts/build win
 (cd build/native && ctest --output-on-failure -j "$(nproc)")
+scripts/fuzz 5
 scripts/with-xvfb bash -c 'cd build/win && ctest --output-on-failure -j "$(nproc)"; rc=$?;
     WINEPREFIX="$PWD/wineprefix" wineserver -k 2>/dev/null || true; exit $rc'

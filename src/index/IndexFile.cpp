@@ -22,7 +22,7 @@ uintmax_t FileSizeOrZero(const std::string& path) {
     return error ? 0 : size;
 }
 
-std::optional<int32_t> ParseInRange(const std::string& line, int32_t max) {
+std::optional<int32_t> ParseInRange(std::string_view line, int32_t max) {
     const std::optional<int32_t> number = ParseWholeNumber(line);
     if (!number || *number < 0 || *number > max) {
         return std::nullopt;
@@ -30,7 +30,7 @@ std::optional<int32_t> ParseInRange(const std::string& line, int32_t max) {
     return number;
 }
 
-bool ReadFolders(TextFileReader& reader, std::string& line, FolderTable& folders) {
+bool ReadFolders(TextFileReader& reader, std::string_view& line, FolderTable& folders) {
     if (!reader.ReadLine(line)) {
         return false;
     }
@@ -49,7 +49,7 @@ bool ReadFolders(TextFileReader& reader, std::string& line, FolderTable& folders
 }
 
 // Records run to the end of the file; a number line without its name line is a fault.
-bool ReadRecords(TextFileReader& reader, std::string& line, IndexItems& items) {
+bool ReadRecords(TextFileReader& reader, std::string_view& line, IndexItems& items) {
     while (reader.ReadLine(line)) {
         const std::optional<int32_t> directory = ParseInRange(line, kFolderSlots - 1);
         if (!directory || !reader.ReadLine(line)) {
@@ -60,9 +60,9 @@ bool ReadRecords(TextFileReader& reader, std::string& line, IndexItems& items) {
     return true;
 }
 
-// One std::string serves every line, so a million records cost no allocation per line.
+// Lines are read as views into the file's bytes, so a million records cost no copy per line.
 std::optional<double> ReadLines(TextFileReader& reader, FolderTable& folders, IndexItems& items) {
-    std::string line;
+    std::string_view line;
     if (!reader.ReadLine(line)) {
         return std::nullopt;
     }
@@ -120,7 +120,8 @@ std::string FormatIndexFile(double lastUpdated, const FolderTable& folders,
     }
     for (int32_t position = 1; position <= items.Count(); ++position) {
         AppendNumberLine(text, items.Directory(position));
-        AppendLine(text, items.Filename(position));
+        items.AppendFilename(position, text);
+        text.append(kLineEnd);
     }
     return text;
 }

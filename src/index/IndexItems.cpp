@@ -1,8 +1,14 @@
 #include "index/IndexItems.h"
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
+#include "index/FolderTable.h"
 #include "index/SubstringSearcher.h"
 #include "platform/Errors.h"
 #include "platform/Text.h"
@@ -17,22 +23,17 @@ constexpr char kNameEnd = '\n';
 // records never become resident.
 constexpr uintmax_t kFileBytesPerRecordGuess = 16;
 
-// Upper-cases in place in the buffer for the ASCII names that make up almost every index, and
-// through ToUpper for the others.
-void AppendUpper(std::string& out, std::string_view text) {
-    const size_t start = out.size();
-    out.append(text);
-    bool ascii = true;
-    for (size_t i = start; i < out.size(); ++i) {
-        const char c = out[i];
-        ascii = ascii && static_cast<unsigned char>(c) < 0x80;
-        if (c >= 'a' && c <= 'z') {
-            out[i] = static_cast<char>(c - 'a' + 'A');
-        }
-    }
-    if (!ascii) {
-        out.resize(start);
-        out += ToUpper(text);
+// Names are copied with this many bytes to spare behind them, so that the last piece of a name
+// needs no care.
+constexpr size_t kSpareBytes = 16;
+
+// Sets the bits of value (16 at most) from bit `position` on.
+void OrBits(std::vector<uint64_t>& bits, size_t position, uint64_t value) {
+    const size_t word = position / 64;
+    const size_t shift = position % 64;
+    bits[word] |= value << shift;
+    if (shift > 48) {
+        bits[word + 1] |= value >> (64 - shift);
     }
 }
 
@@ -46,33 +47,110 @@ uint32_t Offset(size_t size) {
 }  // namespace
 
 void IndexItems::ReserveForFile(uintmax_t fileBytes) {
-    const auto records = static_cast<size_t>(fileBytes / kFileBytesPerRecordGuess);
-    names_.reserve(static_cast<size_t>(fileBytes));
-    upperNames_.reserve(static_cast<size_t>(fileBytes));
-    nameStarts_.reserve(records);
-    upperStarts_.reserve(records);
+    const auto bytes = static_cast<size_t>(fileBytes);
+    const size_t records = bytes / kFileBytesPerRecordGuess;
+    upperNames_.reserve(bytes);
+    lowerBits_.reserve(bytes / 64 + 2);
+    slotStarts_.reserve(records);
     directories_.reserve(records);
 }
 
 void IndexItems::Add(std::string_view filename, int32_t directory) {
-    nameStarts_.push_back(Offset(names_.size()));
-    upperStarts_.push_back(Offset(upperNames_.size()));
-    directories_.push_back(directory);
-    names_.append(filename);
-    AppendUpper(upperNames_, filename);
+    if (directory < 0 || directory >= kFolderSlots) {
+        throw OutOfRangeError("The folder number " + std::to_string(directory) +
+                              " is outside the folder table.");
+    }
+    slotStarts_.push_back(Offset(upperNames_.size()));
+    if (!AddAscii(filename)) {
+        AddOther(filename);
+    }
     upperNames_.push_back(kNameEnd);
+    directories_.push_back(static_cast<uint16_t>(directory));
+}
+
+// Upper-cases the name 16 bytes at a time and notes which were lower-case letters; false,
+// adding nothing, when it is not ASCII.
+bool IndexItems::AddAscii(std::string_view filename) {
+    const size_t start = upperNames_.size();
+    upperNames_.append(filename).append(kSpareBytes, kNameEnd);
+    char* upper = upperNames_.data() + start;
+    const size_t size = filename.size();
+#if defined(__SSE2__)
+    __m128i seen = _mm_setzero_si128();
+    for (size_t i = 0; i < size; i += 16) {
+        seen = _mm_or_si128(seen, _mm_loadu_si128(reinterpret_cast<const __m128i*>(upper + i)));
+    }
+    if (_mm_movemask_epi8(seen) != 0) {
+        upperNames_.resize(start);
+        return false;
+    }
+    lowerBits_.resize(upperNames_.size() / 64 + 2);
+    const __m128i beforeA = _mm_set1_epi8('a' - 1);
+    const __m128i afterZ = _mm_set1_epi8('z' + 1);
+    const __m128i caseBit = _mm_set1_epi8('a' - 'A');
+    for (size_t i = 0; i < size; i += 16) {
+        auto* piece = reinterpret_cast<__m128i*>(upper + i);
+        const __m128i bytes = _mm_loadu_si128(piece);
+        const __m128i lower =
+            _mm_and_si128(_mm_cmpgt_epi8(bytes, beforeA), _mm_cmplt_epi8(bytes, afterZ));
+        const auto lowerMask = static_cast<uint64_t>(_mm_movemask_epi8(lower));
+        if (lowerMask != 0) {
+            _mm_storeu_si128(piece, _mm_sub_epi8(bytes, _mm_and_si128(lower, caseBit)));
+            OrBits(lowerBits_, start + i, lowerMask);
+        }
+    }
+#else
+    if (std::any_of(upper, upper + size, [](char c) { return (c & 0x80) != 0; })) {
+        upperNames_.resize(start);
+        return false;
+    }
+    lowerBits_.resize(upperNames_.size() / 64 + 2);
+    for (size_t i = 0; i < size; ++i) {
+        if (upper[i] >= 'a' && upper[i] <= 'z') {
+            upper[i] = static_cast<char>(upper[i] - ('a' - 'A'));
+            OrBits(lowerBits_, start + i, 1);
+        }
+    }
+#endif
+    upperNames_.resize(start + size);
+    return true;
+}
+
+void IndexItems::AddOther(std::string_view filename) {
+    others_.push_back(OtherName{static_cast<uint32_t>(directories_.size()),
+                                Offset(otherNames_.size()), Offset(filename.size())});
+    otherNames_.append(filename);
+    upperNames_.append(ToUpper(filename));
+    lowerBits_.resize(upperNames_.size() / 64 + 2);
 }
 
 clsItem IndexItems::Item(int32_t position) const {
     const size_t index = CheckedIndex(position);
-    return clsItem{std::string(), std::string(Filename(position)), directories_[index],
+    return clsItem{std::string(), Filename(position), directories_[index],
                    std::string(UpperName(index))};
 }
 
-std::string_view IndexItems::Filename(int32_t position) const {
+std::string IndexItems::Filename(int32_t position) const {
+    std::string name;
+    AppendFilename(position, name);
+    return name;
+}
+
+void IndexItems::AppendFilename(int32_t position, std::string& out) const {
     const size_t index = CheckedIndex(position);
-    const size_t end = index + 1 < nameStarts_.size() ? nameStarts_[index + 1] : names_.size();
-    return std::string_view(names_).substr(nameStarts_[index], end - nameStarts_[index]);
+    if (const OtherName* other = FindOther(index)) {
+        out.append(otherNames_, other->start, other->size);
+        return;
+    }
+    const std::string_view upper = UpperName(index);
+    const size_t start = out.size();
+    out.append(upper);
+    for (size_t i = 0; i < upper.size(); ++i) {
+        const size_t bit = slotStarts_[index] + i;
+        if ((lowerBits_[bit / 64] >> (bit % 64)) & 1) {
+            out[start + i] = static_cast<char>(out[start + i] + ('a' - 'A'));
+        }
+    }
 }
 
 int32_t IndexItems::Directory(int32_t position) const {
@@ -81,14 +159,13 @@ int32_t IndexItems::Directory(int32_t position) const {
 
 std::vector<int32_t> IndexItems::Find(std::string_view upperWord, SearchProgress* progress) const {
     std::vector<int32_t> positions;
-    if (upperWord.find_first_of("\r\n") != std::string_view::npos) {
-        return positions;  // no name holds a line break; '\n' would only match across records
-    }
     if (progress) {
         progress->Show(Count());
     }
+    // No name holds a line break, and '\n' would only match between records.
+    const bool canMatch = upperWord.find_first_of("\r\n") == std::string_view::npos;
     const SubstringSearcher searcher(upperWord);
-    for (int32_t first = 0; first < Count(); first += kProgressStep) {
+    for (int32_t first = 0; canMatch && first < Count(); first += kProgressStep) {
         const int32_t last = std::min(first + kProgressStep, Count());
         FindInBlock(searcher, static_cast<size_t>(first), static_cast<size_t>(last), positions);
         if (progress && last - first == kProgressStep) {
@@ -104,20 +181,20 @@ std::vector<int32_t> IndexItems::Find(std::string_view upperWord, SearchProgress
 void IndexItems::FindInBlock(const SubstringSearcher& searcher, size_t first, size_t last,
                              std::vector<int32_t>& positions) const {
     const std::string_view all(upperNames_);
-    const size_t blockEnd = UpperStart(last);
-    size_t from = UpperStart(first);
+    const size_t blockEnd = SlotStart(last);
+    size_t record = first;
+    size_t from = SlotStart(first);
     while (from < blockEnd) {
         const size_t hit = searcher.Find(all.substr(from, blockEnd - from));
         if (hit == std::string_view::npos) {
             return;
         }
-        // The record holding the hit; the search goes on after that record's name.
-        const auto blockBegin = upperStarts_.begin() + static_cast<std::ptrdiff_t>(first);
-        const auto blockStop = upperStarts_.begin() + static_cast<std::ptrdiff_t>(last);
-        const auto record = std::upper_bound(blockBegin, blockStop, from + hit) - 1;
-        const auto index = static_cast<size_t>(record - upperStarts_.begin());
-        positions.push_back(static_cast<int32_t>(index) + 1);
-        from = UpperStart(index + 1);
+        // Hits only move forward, so the record holding one is found by walking on.
+        while (SlotStart(record + 1) <= from + hit) {
+            ++record;
+        }
+        positions.push_back(static_cast<int32_t>(record) + 1);
+        from = SlotStart(++record);  // the search goes on after that record's name
     }
 }
 
@@ -130,13 +207,19 @@ size_t IndexItems::CheckedIndex(int32_t position) const {
 }
 
 std::string_view IndexItems::UpperName(size_t index) const {
-    // Without the '\n' that ends every upper-cased name.
-    return std::string_view(upperNames_)
-        .substr(upperStarts_[index], UpperStart(index + 1) - upperStarts_[index] - 1);
+    const size_t start = slotStarts_[index];
+    return std::string_view(upperNames_).substr(start, SlotStart(index + 1) - 1 - start);
 }
 
-size_t IndexItems::UpperStart(size_t index) const {
-    return index < upperStarts_.size() ? upperStarts_[index] : upperNames_.size();
+size_t IndexItems::SlotStart(size_t index) const {
+    return index < slotStarts_.size() ? slotStarts_[index] : upperNames_.size();
+}
+
+const IndexItems::OtherName* IndexItems::FindOther(size_t index) const {
+    const auto found = std::lower_bound(
+        others_.begin(), others_.end(), index,
+        [](const OtherName& other, size_t record) { return other.record < record; });
+    return found != others_.end() && found->record == index ? &*found : nullptr;
 }
 
 }  // namespace quorin

@@ -12,22 +12,26 @@ namespace quorin {
 
 class SubstringSearcher;
 
-// The index records, packed for a million files: every name in one buffer, every upper-cased
-// name in a second one (each followed by '\n', which no name contains, so one substring search
-// covers many records), and three 32-bit numbers per record. Positions count from 1.
+// The index records, packed for a million files. The names, upper-cased once, sit in one buffer,
+// a slot per record: the text, then '\n' (which no name contains) up to the slot's end, so that
+// one substring search covers many records. A name's own case is kept as one bit per byte
+// (lower-case letter or not) for ASCII names, and as the name itself for the rare others.
+// Positions count from 1.
 class IndexItems {
   public:
     // Sizes the buffers for a file of that many bytes, so that loading it never reallocates them.
     void ReserveForFile(uintmax_t fileBytes);
 
+    // Throws OutOfRangeError for a directory outside the folder table.
     void Add(std::string_view filename, int32_t directory);
 
     int32_t Count() const { return static_cast<int32_t>(directories_.size()); }
-    size_t NameBytes() const { return names_.size(); }
+    size_t NameBytes() const { return upperNames_.size(); }
 
     // Throw OutOfRangeError outside 1..Count().
     clsItem Item(int32_t position) const;
-    std::string_view Filename(int32_t position) const;
+    std::string Filename(int32_t position) const;
+    void AppendFilename(int32_t position, std::string& out) const;
     int32_t Directory(int32_t position) const;
 
     // Positions of the records whose upper-cased name contains upperWord, in index order.
@@ -35,17 +39,27 @@ class IndexItems {
     std::vector<int32_t> Find(std::string_view upperWord, SearchProgress* progress) const;
 
   private:
+    struct OtherName {
+        uint32_t record;
+        uint32_t start;  // in otherNames_
+        uint32_t size;
+    };
+
+    bool AddAscii(std::string_view filename);
+    void AddOther(std::string_view filename);
     void FindInBlock(const SubstringSearcher& searcher, size_t first, size_t last,
                      std::vector<int32_t>& positions) const;
     size_t CheckedIndex(int32_t position) const;
     std::string_view UpperName(size_t index) const;
-    size_t UpperStart(size_t index) const;
+    size_t SlotStart(size_t index) const;
+    const OtherName* FindOther(size_t index) const;
 
-    std::string names_;
     std::string upperNames_;
-    std::vector<uint32_t> nameStarts_;
-    std::vector<uint32_t> upperStarts_;
-    std::vector<int32_t> directories_;
+    std::vector<uint64_t> lowerBits_;  // bit i: byte i of upperNames_ was a lower-case letter
+    std::string otherNames_;           // the names that are not ASCII, as they are
+    std::vector<OtherName> others_;    // in record order
+    std::vector<uint32_t> slotStarts_;
+    std::vector<uint16_t> directories_;  // folder table slots, 0 to 5000
 };
 
 }  // namespace quorin

@@ -41,6 +41,9 @@ std::string_view FirstCharacters(std::string_view text, size_t count) {
 }  // namespace
 
 bool PassesFileTypeFilter(std::string_view name, std::string_view filter, bool filterIsInclude) {
+    if (filter.empty()) {
+        return !filterIsInclude;  // nothing is listed, whatever the name
+    }
     const std::string tail = ToUpper(LastCharacters(name, kTestedCharacters)) + ' ';
     const bool listed = filter.find(tail) != std::string_view::npos;
     return listed == filterIsInclude;

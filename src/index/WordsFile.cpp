@@ -6,6 +6,8 @@
 namespace quorin {
 namespace {
 
+constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
+
 void AppendLine(std::string& text, const std::string& line) {
     text.append(line).append("\r\n");
 }
@@ -27,6 +29,11 @@ void ReadWordsFile(const std::string& path, const WordRecordCallback& onRecord) 
 
 std::string FormatWordsFile(const std::vector<WordRecord>& records) {
     std::string text;
+    // A reader takes a leading byte order mark for the file's own, so a first word that begins
+    // with that character keeps it behind a mark of its own.
+    if (!records.empty() && records.front().Word.starts_with(kUtf8Bom)) {
+        text = kUtf8Bom;
+    }
     for (const WordRecord& record : records) {
         AppendLine(text, record.Word);
         AppendLine(text, record.Folder);

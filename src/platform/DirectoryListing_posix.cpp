@@ -16,7 +16,9 @@ namespace {
 constexpr size_t kBufferSize = 32 * 1024;
 
 bool IsListed(std::string_view name) {
-    return name.front() != '.' && name.find_first_of("\r\n") == std::string_view::npos;
+    // Two memchr calls: find_first_of would make one call per byte.
+    return name.front() != '.' && name.find('\n') == std::string_view::npos &&
+           name.find('\r') == std::string_view::npos;
 }
 
 enum class Kind { File, Folder, Vanished };

@@ -34,6 +34,32 @@ std::string WriteAll(int fd, std::string_view content) {
 
 }  // namespace
 
+void InputFileTraits::Close(Handle handle) {
+    close(static_cast<int>(handle));
+}
+
+std::string InputFile::Open(const std::string& path) {
+    const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) {
+        return LastOsErrorText();
+    }
+    handle_.reset(fd);
+    return {};
+}
+
+std::string InputFile::Read(char* buffer, size_t size, size_t& count) {
+    for (;;) {
+        const ssize_t got = read(static_cast<int>(handle_.get()), buffer, size);
+        if (got >= 0) {
+            count = static_cast<size_t>(got);
+            return {};
+        }
+        if (errno != EINTR) {
+            return LastOsErrorText();
+        }
+    }
+}
+
 bool FileExists(const std::string& path) {
     struct stat status {};
     return stat(path.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);

@@ -25,7 +25,36 @@ std::string WriteAll(HANDLE file, std::string_view content) {
     return {};
 }
 
+HANDLE FileHandle(std::intptr_t handle) {
+    return reinterpret_cast<HANDLE>(handle);
+}
+
 }  // namespace
+
+void InputFileTraits::Close(Handle handle) {
+    CloseHandle(FileHandle(handle));
+}
+
+std::string InputFile::Open(const std::string& path) {
+    const HANDLE file =
+        CreateFileW(Widen(path).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                    OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return LastOsErrorText();
+    }
+    handle_.reset(reinterpret_cast<std::intptr_t>(file));
+    return {};
+}
+
+std::string InputFile::Read(char* buffer, size_t size, size_t& count) {
+    DWORD got = 0;
+    if (!ReadFile(FileHandle(handle_.get()), buffer, static_cast<DWORD>(std::min(size, kChunk)),
+                  &got, nullptr)) {
+        return LastOsErrorText();
+    }
+    count = got;
+    return {};
+}
 
 bool FileExists(const std::string& path) {
     const DWORD attributes = GetFileAttributesW(Widen(path).c_str());

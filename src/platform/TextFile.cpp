@@ -5,13 +5,21 @@
 #include "platform/Text.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdio>
+#include <cstring>
 #include <random>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 namespace quorin {
 namespace {
 
 constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
+// Large enough that reading costs few calls, small enough to stay in the cache.
+constexpr size_t kPieceBytes = 256 * 1024;
 
 [[noreturn]] void ThrowFileError(const std::string& path, std::string_view action,
                                  const std::string& reason) {
@@ -24,6 +32,38 @@ std::string TemporaryNameFor(const std::string& path) {
     char suffix[24];
     std::snprintf(suffix, sizeof suffix, ".%08x.tmp", std::random_device{}());
     return path + suffix;
+}
+
+struct LineScan {
+    const char* end;  // the CR or LF that ends the line, or the end of the text
+    bool ascii;       // no byte of the line is above 0x7F, so it needs no UTF-8 check
+};
+
+// Lines are short and a file may hold millions: 16 bytes at a time are searched for a line end
+// and their high bits collected on the way.
+LineScan ScanLine(const char* from, const char* last) {
+    const char* p = from;
+    unsigned highBits = 0;
+#if defined(__SSE2__)
+    const __m128i cr = _mm_set1_epi8('\r');
+    const __m128i lf = _mm_set1_epi8('\n');
+    for (; last - p >= 16; p += 16) {
+        const __m128i chunk = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+        const auto breaks = static_cast<unsigned>(
+            _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(chunk, cr), _mm_cmpeq_epi8(chunk, lf))));
+        const auto high = static_cast<unsigned>(_mm_movemask_epi8(chunk));
+        if (breaks != 0) {
+            const int at = std::countr_zero(breaks);
+            highBits |= high & ((1u << at) - 1);
+            return LineScan{p + at, highBits == 0};
+        }
+        highBits |= high;
+    }
+#endif
+    for (; p < last && *p != '\r' && *p != '\n'; ++p) {
+        highBits |= static_cast<unsigned char>(*p) & 0x80u;
+    }
+    return LineScan{p, highBits == 0};
 }
 
 }  // namespace
@@ -49,26 +89,78 @@ void ReplaceFileWhole(const std::string& path, std::string_view content) {
     }
 }
 
-TextFileReader::TextFileReader(const std::string& path) : data_(ReadWholeFile(path)) {
-    if (data_.starts_with(kUtf8Bom)) {
+TextFileReader::TextFileReader(const std::string& path) : path_(path), buffer_(kPieceBytes, '\0') {
+    const std::string reason = file_.Open(path);
+    if (!reason.empty()) {
+        ThrowFileError(path, "read", reason);
+    }
+    ReadMore();
+    if (std::string_view(buffer_).substr(0, end_).starts_with(kUtf8Bom)) {
         pos_ = kUtf8Bom.size();
     }
 }
 
 bool TextFileReader::ReadLine(std::string& line) {
-    if (AtEnd()) {
+    std::string_view view;
+    if (!ReadLine(view)) {
         return false;
     }
-    const size_t end = std::min(data_.find_first_of("\r\n", pos_), data_.size());
-    line.assign(data_, pos_, end - pos_);
-    pos_ = end + 1;
-    if (data_.compare(end, 2, "\r\n") == 0) {
+    line.assign(view);
+    return true;
+}
+
+bool TextFileReader::ReadLine(std::string_view& line) {
+    for (;;) {
+        const LineScan scan = ScanLine(buffer_.data() + pos_, buffer_.data() + end_);
+        const auto lineEnd = static_cast<size_t>(scan.end - buffer_.data());
+        // A CR as the last byte read may be the first half of a CR LF.
+        const bool ended = lineEnd < end_ && (lineEnd + 1 < end_ || buffer_[lineEnd] == '\n');
+        if (ended || fileEnded_) {
+            if (pos_ == end_) {
+                return false;
+            }
+            TakeLine(lineEnd, scan.ascii, line);
+            return true;
+        }
+        ReadMore();
+    }
+}
+
+bool TextFileReader::AtEnd() {
+    while (pos_ == end_ && !fileEnded_) {
+        ReadMore();
+    }
+    return pos_ == end_;
+}
+
+// Moves the bytes not yet handed out to the front and reads more after them; a line longer than
+// the buffer makes it grow.
+void TextFileReader::ReadMore() {
+    std::memmove(buffer_.data(), buffer_.data() + pos_, end_ - pos_);
+    end_ -= pos_;
+    pos_ = 0;
+    if (end_ == buffer_.size()) {
+        buffer_.resize(buffer_.size() * 2);
+    }
+    size_t count = 0;
+    const std::string reason = file_.Read(buffer_.data() + end_, buffer_.size() - end_, count);
+    if (!reason.empty()) {
+        ThrowFileError(path_, "read", reason);
+    }
+    end_ += count;
+    fileEnded_ = count == 0;
+}
+
+void TextFileReader::TakeLine(size_t lineEnd, bool ascii, std::string_view& line) {
+    line = std::string_view(buffer_).substr(pos_, lineEnd - pos_);
+    pos_ = std::min(lineEnd + 1, end_);
+    if (lineEnd + 1 < end_ && buffer_[lineEnd] == '\r' && buffer_[lineEnd + 1] == '\n') {
         ++pos_;
     }
-    if (!IsValidUtf8(line)) {
-        line = AnsiToUtf8(line);
+    if (!ascii && !IsValidUtf8(line)) {
+        decoded_ = AnsiToUtf8(line);
+        line = decoded_;
     }
-    return true;
 }
 
 }  // namespace quorin

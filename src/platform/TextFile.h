@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/FileSystem.h"
+
 #include <string>
 #include <string_view>
 
@@ -16,18 +18,29 @@ std::string ReadWholeFile(const std::string& path);
 void ReplaceFileWhole(const std::string& path, std::string_view content);
 
 // Reads a text file line by line. CR LF, LF or a lone CR ends a line; the end of the file ends
-// the last line. A line that is not valid UTF-8 is decoded from the ANSI code page.
+// the last line. A line that is not valid UTF-8 is decoded from the ANSI code page. The file is
+// read in pieces, so that a file of a million lines never sits in memory whole.
 class TextFileReader {
-public:
+  public:
     explicit TextFileReader(const std::string& path);  // throws FileError
 
-    // False at the end of the file.
+    // False at the end of the file. Both throw FileError when the file cannot be read further.
     bool ReadLine(std::string& line);
-    bool AtEnd() const { return pos_ >= data_.size(); }
+    // The same without a copy; the view lasts until the next call.
+    bool ReadLine(std::string_view& line);
+    bool AtEnd();
 
-private:
-    std::string data_;
+  private:
+    void ReadMore();
+    void TakeLine(size_t lineEnd, bool ascii, std::string_view& line);
+
+    std::string path_;
+    InputFile file_;
+    std::string buffer_;  // the bytes from pos_ to end_ are read and not yet handed out
     size_t pos_ = 0;
+    size_t end_ = 0;
+    bool fileEnded_ = false;
+    std::string decoded_;  // the last line, when it had to be decoded from the ANSI code page
 };
 
 }  // namespace quorin

@@ -1,0 +1,219 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <functional>
+#include <random>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "EngineFixture.h"
+#include "platform/Errors.h"
+#include "platform/OleDate.h"
+#include "platform/Path.h"
+#include "platform/TextFile.h"
+
+namespace quorin {
+namespace {
+
+constexpr double kOneSecond = 1.0 / 86400;
+constexpr int kKills = 100;
+
+// "index.txt" and "words.txt" are saved by a child process that is killed at random moments;
+// whatever moment it dies in, each file must be exactly one of the versions it was writing.
+class CrashSafeSave : public EngineFixture {
+  protected:
+    // Few files, since creating files is slow on a busy disk, with long names, so that a save
+    // takes long enough to be killed in the middle.
+    void SetUp() override {
+        UseRoots({"root"});
+        const std::string padding(100, 'x');
+        for (int folder = 0; folder < 4; ++folder) {
+            for (int file = 0; file < 50; ++file) {
+                tree.WriteFile("root/folder " + std::to_string(folder) + "/file " +
+                                   std::to_string(file) + padding + ".txt",
+                               "");
+            }
+        }
+    }
+
+    std::string ProgramFile(const char* name) const { return JoinPath(program.Path(), name); }
+
+    // Long file names make a words file of a quarter of a megabyte, whose writing takes long
+    // enough to be killed in the middle.
+    static void AssignWords(clsIndex& index, int count) {
+        while (index.Words().Count() > 0) {
+            index.Words().Remove(1);
+        }
+        const std::string padding(1000, 'y');
+        for (int i = 0; i < count; ++i) {
+            index.Words().Add("file " + std::to_string(i % 50) + padding + ".txt", 1 + i % 4,
+                              "word" + std::to_string(i), "word" + std::to_string(i));
+        }
+    }
+
+    // Runs saveForever in a child process, which calls saved() before its first save and after
+    // each one. The child is killed with SIGKILL at `fraction` of the time one save took, so that
+    // the kills fall on every step of a save however fast or slow the machine is.
+    using Saver = std::function<void(const std::function<void()>& saved)>;
+    static void KillSaverPartWay(double fraction, const Saver& saveForever) {
+        int pipeEnds[2];
+        ASSERT_EQ(pipe(pipeEnds), 0);
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            alarm(60);  // never outlive a parent that failed to kill
+            close(pipeEnds[0]);
+            try {
+                saveForever([&] { [[maybe_unused]] const auto sent = write(pipeEnds[1], "s", 1); });
+            } catch (...) {
+            }
+            _exit(3);
+        }
+        close(pipeEnds[1]);
+        char signal[2] = {};
+        const bool started = read(pipeEnds[0], &signal[0], 1) == 1;
+        const auto start = std::chrono::steady_clock::now();
+        const bool savedOnce = started && read(pipeEnds[0], &signal[1], 1) == 1;
+        std::this_thread::sleep_for((std::chrono::steady_clock::now() - start) * fraction);
+        kill(child, SIGKILL);
+        close(pipeEnds[0]);
+        int status = 0;
+        waitpid(child, &status, 0);
+        ASSERT_TRUE(savedOnce && WIFSIGNALED(status)) << "the saver stopped by itself: " << status;
+    }
+
+    size_t LeftoverFiles() const {
+        size_t count = 0;
+        for (const auto& entry : std::filesystem::directory_iterator(program.Path())) {
+            const std::string name = entry.path().filename().string();
+            count += name != "index.txt" && name != "words.txt";
+        }
+        return count;
+    }
+};
+
+// Everything after line 1, which holds the build's time and so changes with every save.
+std::string IndexBody(const std::string& text, bool& dated) {
+    const size_t lineEnd = text.find("\r\n");
+    dated = lineEnd != std::string::npos && ParseIndexDate(text.substr(0, lineEnd)).has_value();
+    return lineEnd == std::string::npos ? std::string() : text.substr(lineEnd);
+}
+
+TEST_F(CrashSafeSave, KilledBuildLeavesAWholeIndexFile) {
+    MakeIndex()->CreateIndex(true, window);
+    bool dated = false;
+    const std::string body = IndexBody(ReadWholeFile(ProgramFile("index.txt")), dated);
+    ASSERT_TRUE(dated);
+    ASSERT_GT(body.size(), 20000u);
+
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> part(0, 1);
+    for (int kill = 0; kill < kKills; ++kill) {
+        KillSaverPartWay(part(random), [&](const auto& saved) {
+            const auto index = MakeIndex();
+            for (;;) {
+                saved();
+                clock.now += kOneSecond;
+                index->CreateIndex(true, window);
+            }
+        });
+        ASSERT_EQ(IndexBody(ReadWholeFile(ProgramFile("index.txt")), dated), body)
+            << "after kill " << kill;
+        ASSERT_TRUE(dated);
+    }
+    const auto index = MakeIndex();
+    EXPECT_NE(index->LastUpdated, 0);
+    EXPECT_EQ(index->ItemCount(), 200);
+}
+
+TEST_F(CrashSafeSave, KilledWordSaveLeavesOldOrNewWordsFile) {
+    MakeIndex()->CreateIndex(true, window);
+    std::vector<std::string> versions;
+    for (const int count : {150, 250}) {
+        const auto index = MakeIndex();
+        AssignWords(*index, count);
+        index->SaveWords();
+        versions.push_back(ReadWholeFile(ProgramFile("words.txt")));
+    }
+
+    std::mt19937 random(11);
+    std::uniform_real_distribution<double> part(0, 1);
+    for (int kill = 0; kill < kKills; ++kill) {
+        KillSaverPartWay(part(random), [&](const auto& saved) {
+            const auto index = MakeIndex();
+            for (int round = 0;; ++round) {
+                saved();
+                AssignWords(*index, round % 2 == 0 ? 150 : 250);
+                index->SaveWords();
+            }
+        });
+        const std::string text = ReadWholeFile(ProgramFile("words.txt"));
+        ASSERT_TRUE(text == versions[0] || text == versions[1])
+            << "after kill " << kill << ": " << text.size() << " bytes";
+    }
+    const int32_t words = MakeIndex()->Words().Count();
+    EXPECT_TRUE(words == 150 || words == 250) << words;
+}
+
+// A disk that fills up during a save: the save fails with a sentence naming the file, the old
+// file stays as it was and no temporary file is left behind.
+TEST_F(CrashSafeSave, FullDiskFailsClearlyAndKeepsTheOldFiles) {
+    {
+        const auto index = MakeIndex();
+        index->CreateIndex(true, window);
+        AssignWords(*index, 20);
+        index->SaveWords();
+    }
+    const std::string oldIndex = ReadWholeFile(ProgramFile("index.txt"));
+    const std::string oldWords = ReadWholeFile(ProgramFile("words.txt"));
+
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        // Writes beyond 16 KB fail as on a full disk (EFBIG rather than a signal).
+        const rlimit limit{16384, 16384};
+        std::signal(SIGXFSZ, SIG_IGN);
+        if (setrlimit(RLIMIT_FSIZE, &limit) != 0) {
+            _exit(9);
+        }
+        const auto says = [](const FileError& e, const char* file) {
+            const std::string text = e.what();
+            return text.find(file) != std::string::npos &&
+                   text.find("could not be saved") != std::string::npos;
+        };
+        const auto index = MakeIndex();
+        try {
+            clock.now += kOneSecond;
+            index->CreateIndex(true, window);
+            _exit(10);
+        } catch (const FileError& e) {
+            if (!says(e, "index.txt")) {
+                _exit(11);
+            }
+        }
+        AssignWords(*index, 1000);
+        try {
+            index->SaveWords();
+            _exit(12);
+        } catch (const FileError& e) {
+            _exit(says(e, "words.txt") ? 0 : 13);
+        }
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 0) << "10/12: the save succeeded, 11/13: unclear message";
+    EXPECT_EQ(ReadWholeFile(ProgramFile("index.txt")), oldIndex);
+    EXPECT_EQ(ReadWholeFile(ProgramFile("words.txt")), oldWords);
+    EXPECT_EQ(LeftoverFiles(), 0u);
+}
+
+}  // namespace
+}  // namespace quorin
