@@ -12,10 +12,9 @@
 #include "index/clsIndex.h"
 #include "platform/Clock.h"
 #include "platform/MemorySettingsStore.h"
-#include "platform/Prompter.h"
-#include "platform/Shell.h"
 #include "platform/Text.h"
 #include "platform/registry/ScratchClasses.h"
+#include "support/Fakes.h"
 #include "support/TempFolder.h"
 #include "ui/Dpi.h"
 #include "ui/MessagePump.h"
@@ -29,38 +28,6 @@ namespace {
 constexpr char kIndexFile[] =
     "2023-03-15 12:00:00\r\n 3\r\nC:\\Work\r\nC:\\Archive\r\nC:\\Music\r\n"
     " 0\r\nPlan B.qzt\r\n 1\r\nplan a.qzx\r\n 1\r\nother.txt\r\n 2\r\nPlans.exe\r\n";
-
-class RecordingShell final : public Shell {
-  public:
-    struct Call {
-        std::string file;
-        std::string parameters;
-        std::string folder;
-        int show;
-    };
-    void Open(std::string_view file, std::string_view parameters, std::string_view workingFolder,
-              int showCommand) override {
-        calls.push_back(
-            {std::string(file), std::string(parameters), std::string(workingFolder), showCommand});
-    }
-    std::vector<Call> calls;
-};
-
-class RecordingPrompter final : public Prompter {
-  public:
-    struct Prompt {
-        std::string title;
-        std::string text;
-        PromptButtons buttons;
-        PromptIcon icon;
-    };
-    PromptAnswer Ask(std::string_view title, std::string_view text, PromptButtons buttons,
-                     PromptIcon icon) override {
-        prompts.push_back({std::string(title), std::string(text), buttons, icon});
-        return PromptAnswer::Ok;
-    }
-    std::vector<Prompt> prompts;
-};
 
 std::vector<std::string> Column(HWND list, int column) {
     std::vector<std::string> texts;
@@ -149,9 +116,9 @@ class MatchesWindowTest : public ::testing::Test {
     TempFolder program_;
     MemorySettingsStore settings_;
     SystemClock clock_;
-    RecordingPrompter prompter_;
+    test::ScriptedPrompter prompter_;
     MessagePump events_;
-    RecordingShell shell_;
+    test::RecordingShell shell_;
     std::unique_ptr<clsIndex> index_;
     int wordListRefreshes_ = 0;
 };
@@ -183,7 +150,7 @@ TEST_F(MatchesWindowTest, ListsTheMatchesInCollectionOrderWithTheFirstSelected) 
     EXPECT_EQ(GetNextDlgTabItem(form, list, FALSE), check);
     EXPECT_EQ(GetNextDlgTabItem(form, check, FALSE), open);
     EXPECT_EQ(GetNextDlgTabItem(form, open, FALSE), list);
-    EXPECT_TRUE(prompter_.prompts.empty());
+    EXPECT_TRUE(prompter_.boxes.empty());
     DestroyWindow(form);
 }
 
@@ -218,12 +185,12 @@ TEST_F(MatchesWindowTest, AssociationGoesToTheRowsPositionWhileTheRowsOwnFileOpe
     Button_SetCheck(GetDlgItem(form, kMatchesAssociateId), BST_CHECKED);
     ClickButton(form, kMatchesOpenId);
 
-    ASSERT_EQ(shell_.calls.size(), 2u);
-    for (const RecordingShell::Call& call : shell_.calls) {
+    ASSERT_EQ(shell_.opened.size(), 2u);
+    for (const test::RecordingShell::Opened& call : shell_.opened) {
         EXPECT_EQ(call.file, "C:\\Archive\\plan a.qzx");
         EXPECT_EQ(call.parameters, "");
-        EXPECT_EQ(call.folder, "C:\\Archive");
-        EXPECT_EQ(call.show, 5);
+        EXPECT_EQ(call.workingFolder, "C:\\Archive");
+        EXPECT_EQ(call.showCommand, 5);
     }
     // Position 3 of the collection is Plans.exe, whatever row now shows it.
     const clsItem* assigned = index_->Words().Item("PLAN");
@@ -250,12 +217,12 @@ TEST_F(MatchesWindowTest, EnterInTheListOpensAsADoubleClickDoes) {
     PressKey(List(pressed), VK_RETURN);
     pump.DoEvents();
 
-    ASSERT_EQ(shell_.calls.size(), 2u);
+    ASSERT_EQ(shell_.opened.size(), 2u);
     EXPECT_FALSE(IsWindow(clicked));
     EXPECT_FALSE(IsWindow(pressed));
-    for (const RecordingShell::Call& call : shell_.calls) {
+    for (const test::RecordingShell::Opened& call : shell_.opened) {
         EXPECT_EQ(call.file, "C:\\Archive\\plan a.qzx");
-        EXPECT_EQ(call.folder, "C:\\Archive");
+        EXPECT_EQ(call.workingFolder, "C:\\Archive");
     }
 }
 
@@ -264,14 +231,14 @@ TEST_F(MatchesWindowTest, TheDialogKeysOpenTheFocusedListsRowAndEscapeCloses) {
     SelectRow(List(form), 2);
     SetFocus(List(form));
     EXPECT_TRUE(DialogKey(form, List(form), VK_RETURN));
-    ASSERT_EQ(shell_.calls.size(), 1u);
-    EXPECT_EQ(shell_.calls[0].file, "C:\\Music\\Plans.exe");
+    ASSERT_EQ(shell_.opened.size(), 1u);
+    EXPECT_EQ(shell_.opened[0].file, "C:\\Music\\Plans.exe");
     EXPECT_FALSE(IsWindow(form));
 
     const HWND escaped = Load();
     EXPECT_TRUE(DialogKey(escaped, List(escaped), VK_ESCAPE));
     EXPECT_FALSE(IsWindow(escaped));
-    EXPECT_EQ(shell_.calls.size(), 1u);
+    EXPECT_EQ(shell_.opened.size(), 1u);
     EXPECT_NE(Saved("Width"), "-");
 }
 
@@ -335,11 +302,11 @@ TEST_F(MatchesWindowTest, AFailureWhileFillingIsShownAndKeepsTheRowsSoFar) {
     form.Word("first");
     form.Matches(MatchList(items, {1, 7}));  // the second match refers to no record
 
-    ASSERT_EQ(prompter_.prompts.size(), 1u);
-    EXPECT_EQ(prompter_.prompts[0].title, "Matches");
-    EXPECT_FALSE(prompter_.prompts[0].text.empty());
-    EXPECT_EQ(prompter_.prompts[0].buttons, PromptButtons::Ok);
-    EXPECT_EQ(prompter_.prompts[0].icon, PromptIcon::Critical);
+    ASSERT_EQ(prompter_.boxes.size(), 1u);
+    EXPECT_EQ(prompter_.boxes[0].title, "Matches");
+    EXPECT_FALSE(prompter_.boxes[0].text.empty());
+    EXPECT_EQ(prompter_.boxes[0].buttons, PromptButtons::Ok);
+    EXPECT_EQ(prompter_.boxes[0].icon, PromptIcon::Critical);
     EXPECT_EQ(Column(List(window), 0), std::vector<std::string>{"first.qzx"});
     DestroyWindow(window);
 }
