@@ -8,5 +8,4 @@ scripts/build native
 scripts/build win
 (cd build/native && ctest --output-on-failure -j "$(nproc)")
 scripts/fuzz 5
-scripts/with-xvfb bash -c 'cd build/win && ctest --output-on-failure -j "$(nproc)"; rc=$?;
-    WINEPREFIX="$PWD/wineprefix" wineserver -k 2>/dev/null || true; exit $rc'
+scripts/with-xvfb scripts/win-ctest

@@ -37,10 +37,12 @@ PromptAnswer AnswerOf(int result) {
 
 }  // namespace
 
+// A tray program asks while none of its windows may be in front (at start-up, or from the tray),
+// so the box takes the foreground itself rather than waiting grey behind other programs.
 PromptAnswer MessageBoxPrompter::Ask(std::string_view title, std::string_view text,
                                      PromptButtons buttons, PromptIcon icon) {
-    return AnswerOf(
-        MessageBoxW(owner_, Widen(text).c_str(), Widen(title).c_str(), StyleOf(buttons, icon)));
+    return AnswerOf(MessageBoxW(owner_, Widen(text).c_str(), Widen(title).c_str(),
+                                StyleOf(buttons, icon) | MB_SETFOREGROUND));
 }
 
 }  // namespace quorin

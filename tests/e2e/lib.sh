@@ -10,8 +10,12 @@ export WINEDEBUG=-all
 export WINEDLLOVERRIDES="mscoree,mshtml="
 program=$work/program
 
+# A failure leaves the screen as it was in failure.png and names the windows then shown.
 fail() {
     echo "FAIL: $*" >&2
+    import -display "$DISPLAY" -window root "$shots/failure.png" 2>/dev/null || true
+    echo "windows shown:" >&2
+    xdotool search --onlyvisible --name . getwindowname %@ >&2 2>/dev/null || true
     exit 1
 }
 shot() { import -display "$DISPLAY" -window root "$shots/$1.png"; }
@@ -59,10 +63,28 @@ wait_until() {
     fail "$what"
 }
 
+window_shown() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
+
+# Yes is the question's default button. Under load the box can come up inactive, where keys do
+# not reach it, so each try first clicks its caption.
+answer_missing_index() {
+    local box _ __
+    for _ in $(seq 5); do
+        box=$(xdotool search --onlyvisible --name '^Missing index$' | head -1) || return 0
+        [ -n "$box" ] || return 0
+        xdotool mousemove --window "$box" 60 8 click 1
+        sleep 0.5
+        xdotool key Return
+        for __ in $(seq 12); do
+            sleep 0.25
+            window_shown '^Missing index$' || return 0
+        done
+    done
+    fail "\"Missing index\" did not take Return"
+}
+
 # After "Missing index" was answered Yes: the first build.
 wait_for_index() { wait_until 120 "no index.txt after answering Yes" test -f "$program/index.txt"; }
-
-window_shown() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
 
 # Ends the program through its Exit tab and waits for it to be gone.
 exit_program() {

@@ -47,8 +47,8 @@ matches_gone() { ! matches_shown; }
 main_hidden() { ! window_shown '^Quorin$'; }
 
 start_program
-wait_until 40 "no \"Missing index\" question at start" window_shown '^Missing index$'
-xdotool key Return
+wait_until 60 "no \"Missing index\" question at start" window_shown '^Missing index$'
+answer_missing_index
 wait_for_index
 grep -q 'alpha report.qzo' "$program/index.txt" || fail "index.txt misses alpha report.qzo"
 ! grep -q 'alpha draft.txt' "$program/index.txt" || fail "the filter let alpha draft.txt in"

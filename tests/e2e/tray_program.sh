@@ -31,13 +31,12 @@ printf 'Notepad\r\nC:\\e2e-tree\\dir1\r\nnotes1.txt\r\nNotes\r\nC:\\e2e-tree\\di
     >"$program/words.txt"
 
 start_program
-sleep 10
+wait_until 60 "no \"Missing index\" question at start" window_shown '^Missing index$'
+sleep 2
 shot start
 [ ! -f "$program/index.txt" ] || fail "an index before the question was answered"
 
-# Yes is the question's default button.
-xdotool key Return
-sleep 0.8
+answer_missing_index
 shot main-progress
 wait_for_index
 head -1 "$program/index.txt" | grep -Eq '^[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9:]{8}' || fail "index.txt has no date"
