@@ -3,7 +3,7 @@
 #include <charconv>
 #include <system_error>
 
-#include "index/LenientConversions.h"
+#include "platform/LenientConversions.h"
 #include "platform/Errors.h"
 #include "platform/FileSystem.h"
 #include "platform/OleDate.h"

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "index/LenientConversions.h"
+#include "platform/LenientConversions.h"
 #include "platform/Errors.h"
 #include "platform/Path.h"
 

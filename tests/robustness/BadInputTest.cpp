@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "EngineFixture.h"
-#include "index/LenientConversions.h"
+#include "platform/LenientConversions.h"
 #include "platform/Errors.h"
 #include "platform/IniSettingsStore.h"
 

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-#include "index/LenientConversions.h"
+#include "platform/LenientConversions.h"
 #include "index/clsIndex.h"
 #include "platform/Path.h"
 #include "platform/Prompter.h"

@@ -1,4 +1,4 @@
-#include "index/LenientConversions.h"
+#include "platform/LenientConversions.h"
 
 #include <charconv>
 #include <cmath>
