@@ -40,7 +40,8 @@ prepare_program() {
         >/dev/null 2>&1 || true
 }
 
-set_index_setting() { wine reg add 'HKCU\Software\Quorin\Index' /v "$1" /d "$2" /f >/dev/null; }
+# set_setting SECTION NAME VALUE
+set_setting() { wine reg add "HKCU\\Software\\Quorin\\$1" /v "$2" /d "$3" /f >/dev/null; }
 
 # A Linux path as Wine's Z: drive sees it.
 windows_path() { echo "Z:${1//\//\\}"; }
@@ -65,22 +66,19 @@ wait_until() {
 
 window_shown() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
 
-# Yes is the question's default button. Under load the box can come up inactive, where keys do
-# not reach it, so each try first clicks its caption.
+# The question's box is centred on the desktop too, its Yes button here. The button is clicked
+# rather than Return pressed: under load Wine can leave the box inactive, where keys do not reach
+# it but clicks do.
 answer_missing_index() {
-    local box _ __
+    local _ __
     for _ in $(seq 5); do
-        box=$(xdotool search --onlyvisible --name '^Missing index$' | head -1) || return 0
-        [ -n "$box" ] || return 0
-        xdotool mousemove --window "$box" 60 8 click 1
-        sleep 0.5
-        xdotool key Return
+        xdotool mousemove 606 432 click 1
         for __ in $(seq 12); do
             sleep 0.25
             window_shown '^Missing index$' || return 0
         done
     done
-    fail "\"Missing index\" did not take Return"
+    fail "\"Missing index\" did not take a click on Yes"
 }
 
 # After "Missing index" was answered Yes: the first build.

@@ -20,10 +20,10 @@ if [ ! -d "$tree/dir80" ]; then
         touch "$tree/dir$a/notes$a.txt"
     done
 fi
-set_index_setting DriveCount 1
-set_index_setting Drive0 'C:\e2e-tree'
-set_index_setting Filter ''
-set_index_setting FilterIsInclude False
+set_setting Index DriveCount 1
+set_setting Index Drive0 'C:\e2e-tree'
+set_setting Index Filter ''
+set_setting Index FilterIsInclude False
 wineserver -w
 
 # Two assigned words for the completion; their folder is indexed by the first build.
