@@ -1,7 +1,5 @@
 #include "ui/main/clsSysTray.h"
 
-#include <shellapi.h>
-
 #include <cstdint>
 
 #include "platform/Text.h"
@@ -35,6 +33,9 @@ NOTIFYICONDATAW ToNotifyIconData(const TrayRecord& record) {
 
 }  // namespace
 
+clsSysTray::clsSysTray()
+    : notifier_([](DWORD message, NOTIFYICONDATAW& data) { Shell_NotifyIconW(message, &data); }) {}
+
 void clsSysTray::CreateIcon(HWND hWnd, HICON hIcon, std::string_view Tip) {
     record_ = MakeTrayRecord(Low32(hWnd), Low32(hIcon), Tip);
     Notify(NIM_ADD);
@@ -55,7 +56,7 @@ void clsSysTray::RestoreIcon() {
 
 void clsSysTray::Notify(DWORD message) const {
     NOTIFYICONDATAW data = ToNotifyIconData(record_);
-    Shell_NotifyIconW(message, &data);
+    notifier_(message, data);
 }
 
 }  // namespace quorin

@@ -2,7 +2,11 @@
 
 #include <windows.h>
 
+#include <shellapi.h>
+
+#include <functional>
 #include <string_view>
+#include <utility>
 
 #include "ui/main/TrayRecord.h"
 
@@ -13,6 +17,12 @@ namespace quorin {
 // looked at: without a notification area the program runs on without an icon.
 class clsSysTray {
   public:
+    // How the shell is told of the icon; tests record the calls instead.
+    using Notifier = std::function<void(DWORD message, NOTIFYICONDATAW& data)>;
+
+    clsSysTray();
+    explicit clsSysTray(Notifier notifier) : notifier_(std::move(notifier)) {}
+
     void CreateIcon(HWND hWnd, HICON hIcon, std::string_view Tip);
     void ChangeIcon(HWND hWnd, HICON hIcon, std::string_view Tip);
     void RemoveIcon();
@@ -24,6 +34,7 @@ class clsSysTray {
   private:
     void Notify(DWORD message) const;
 
+    Notifier notifier_;
     TrayRecord record_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ui/main/MainFakes.h"
@@ -29,7 +30,11 @@ class MainWindowTest : public ProgramFixture {
     bool PanelShown(int panel) const;
     std::vector<bool> PanelsShown() const;
 
-    clsSysTray tray;
+    // What the shell was told of the tray icon: the message and the window named.
+    std::vector<std::pair<DWORD, HWND>> trayCalls;
+    clsSysTray tray{[this](DWORD message, NOTIFYICONDATAW& data) {
+        trayCalls.emplace_back(message, data.hWnd);
+    }};
     std::unique_ptr<frmMain> form;
 };
 

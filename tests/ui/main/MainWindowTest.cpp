@@ -89,6 +89,15 @@ TEST_F(MainWindowTest, LoadsHiddenWithTabsPanelsAndEveryText) {
     EXPECT_EQ(TrayTip(record), "Quorin");
     EXPECT_EQ(record.hWnd, static_cast<uint32_t>(reinterpret_cast<uintptr_t>(Window())));
     EXPECT_NE(record.hIcon, 0u);
+    EXPECT_EQ(trayCalls, (std::vector<std::pair<DWORD, HWND>>{{NIM_ADD, Window()}}));
+}
+
+TEST_F(MainWindowTest, TheIconComesBackWhenExplorerRestarts) {
+    Load();
+    trayCalls.clear();
+    SendMessageW(Window(), RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
+    EXPECT_EQ(trayCalls, (std::vector<std::pair<DWORD, HWND>>{{NIM_ADD, Window()}}));
+    EXPECT_EQ(TrayTip(tray.Record()), "Quorin");
 }
 
 TEST_F(MainWindowTest, TabsShowTheirPanelsAndTheLinksDoTheirWork) {
@@ -129,6 +138,8 @@ TEST_F(MainWindowTest, ExitTabUnloadsSavingThePositionAndRemovingTheEngine) {
     ClickTab(4);
     EXPECT_EQ(unloads, 1);
     EXPECT_FALSE(IsWindow(window));
+    ASSERT_FALSE(trayCalls.empty());
+    EXPECT_EQ(trayCalls.back(), std::make_pair(DWORD{NIM_DELETE}, window));
     EXPECT_FALSE(index.Exists());
     EXPECT_EQ(settings.Get("Main", "StartX", ""), std::to_string(PixelsToTwips(150, ScreenDpi())));
     EXPECT_EQ(settings.Get("Main", "StartY", ""), std::to_string(PixelsToTwips(90, ScreenDpi())));
