@@ -66,6 +66,10 @@ wait_until() {
 
 window_shown() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
 
+# The "Missing index" question of a start without an index.
+question_shown() { window_shown '^Missing index$'; }
+wait_for_question() { wait_until 60 "no \"Missing index\" question at start" question_shown; }
+
 # The question's box is centred on the desktop too, its Yes button here. The button is clicked
 # rather than Return pressed: under load Wine can leave the box inactive, where keys do not reach
 # it but clicks do.
@@ -75,7 +79,7 @@ answer_missing_index() {
         xdotool mousemove 606 432 click 1
         for __ in $(seq 12); do
             sleep 0.25
-            window_shown '^Missing index$' || return 0
+            question_shown || return 0
         done
     done
     fail "\"Missing index\" did not take a click on Yes"

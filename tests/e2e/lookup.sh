@@ -52,7 +52,7 @@ matches_gone() { ! matches_shown; }
 main_hidden() { ! window_shown '^Quorin$'; }
 
 start_program
-wait_until 60 "no \"Missing index\" question at start" window_shown '^Missing index$'
+wait_for_question
 answer_missing_index
 wait_for_index
 grep -q 'alpha report.qzo' "$program/index.txt" || fail "index.txt misses alpha report.qzo"

@@ -31,7 +31,7 @@ printf 'Notepad\r\nC:\\e2e-tree\\dir1\r\nnotes1.txt\r\nNotes\r\nC:\\e2e-tree\\di
     >"$program/words.txt"
 
 start_program
-wait_until 60 "no \"Missing index\" question at start" window_shown '^Missing index$'
+wait_for_question
 sleep 2
 shot start
 [ ! -f "$program/index.txt" ] || fail "an index before the question was answered"
