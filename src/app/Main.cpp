@@ -1,8 +1,12 @@
 #include "app/Main.h"
 
+#include <optional>
+
 #include "QuorinVersion.h"
-#include "app/Splash.h"
+#include "app/modGlobals.h"
 #include "platform/Errors.h"
+#include "ui/Hourglass.h"
+#include "ui/splash/Splash.h"
 
 namespace quorin {
 
@@ -12,10 +16,6 @@ constexpr std::string_view kMissingIndexText =
     "Your index file is either missing or corrupted. Would you like to generate a new index file "
     "now? (Answering no will exit the program.)";
 
-void SetHourglass(bool busy) {
-    SetCursor(LoadCursorW(nullptr, busy ? IDC_WAIT : IDC_ARROW));
-}
-
 }  // namespace
 
 Startup::Startup(StartupServices services) : services_(std::move(services)) {}
@@ -23,7 +23,7 @@ Startup::Startup(StartupServices services) : services_(std::move(services)) {}
 Startup::~Startup() = default;
 
 bool Startup::Main() {
-    SetHourglass(true);
+    std::optional<Hourglass> busy(std::in_place);
     frmSplash splash;
     if (services_.showSplash) {
         splash.Show();
@@ -37,8 +37,8 @@ bool Startup::Main() {
         mainForm_ = std::make_unique<frmMain>(
             MainServices{services_.settings, services_.clock, services_.prompter, services_.shell,
                          services_.index, tray_, services_.matches, services_.options,
-                         services_.programFolder, services_.onUnloaded});
-        SetHourglass(false);
+                         services_.help, services_.onUnloaded});
+        busy.reset();
         splash.Unload();
         return EnsureIndex();
     } catch (const Error& error) {
@@ -72,10 +72,11 @@ bool Startup::EnsureIndex() {
             mainForm_->Unload();
             return false;
         }
-        SetHourglass(true);
-        mainForm_->Show();
-        index.CreateIndex(false, *mainForm_);
-        SetHourglass(false);
+        {
+            const Hourglass busy;
+            mainForm_->Show();
+            index.CreateIndex(false, *mainForm_);
+        }
         if (index.LastUpdated == 0) {
             mainForm_->Unload();
             return false;

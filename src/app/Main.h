@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "app/modGlobals.h"
+#include "index/LazyIndex.h"
 #include "platform/Clock.h"
 #include "platform/Prompter.h"
 #include "platform/SettingsStore.h"
@@ -13,6 +13,7 @@
 #include "ui/main/MatchesOpener.h"
 #include "ui/main/OptionsOpener.h"
 #include "ui/main/clsSysTray.h"
+#include "ui/help/Help.h"
 #include "ui/main/frmMain.h"
 
 namespace quorin {
@@ -25,6 +26,7 @@ struct StartupServices {
     LazyIndex& index;
     MatchesOpener& matches;
     OptionsOpener& options;
+    Help& help;
     std::string programFolder;  // without a trailing separator
     bool showSplash = true;
     std::function<void()> onUnloaded;  // the main window has gone

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "app/modGlobals.h"
+#include "index/LazyIndex.h"
 #include "platform/Prompter.h"
 #include "platform/SettingsStore.h"
 #include "platform/Shell.h"

@@ -12,6 +12,7 @@
 #include "platform/ShellExecuteShell.h"
 #include "platform/Text.h"
 #include "ui/MessagePump.h"
+#include "ui/help/ProgramHelp.h"
 
 namespace {
 
@@ -33,10 +34,11 @@ int RunQuorin() {
     MessagePump events;
     MainOptionsOpener options;
     const std::string programFolder = ExecutableFolder();
+    ProgramHelp help(programFolder);
     LazyIndex index({settings, clock, prompter, events, programFolder});
     MainMatchesOpener matches(index, shell, settings, prompter);
-    Startup startup({settings, clock, prompter, shell, index, matches, options, programFolder, true,
-                     [] { PostQuitMessage(0); }});
+    Startup startup({settings, clock, prompter, shell, index, matches, options, help, programFolder,
+                     true, [] { PostQuitMessage(0); }});
 
     const bool running = startup.Main();
     if (!running) {

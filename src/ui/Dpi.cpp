@@ -33,6 +33,10 @@ int PixelsToTwips(int pixels, int dpi) {
     return RoundedQuotient(std::int64_t{pixels} * kTwipsPerInch, dpi);
 }
 
+int ScaleForDpi(int pixelsAt96, int dpi) {
+    return MulDiv(pixelsAt96, dpi, USER_DEFAULT_SCREEN_DPI);
+}
+
 int ScreenDpi() {
     const WindowDC screen(nullptr);
     return GetDeviceCaps(screen.get(), LOGPIXELSY);

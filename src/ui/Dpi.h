@@ -13,6 +13,9 @@ inline constexpr int kTwipsPerInch = 1440;
 int TwipsToPixels(int twips, int dpi);
 int PixelsToTwips(int pixels, int dpi);
 
+// A length designed in pixels at 96 DPI, at another DPI.
+int ScaleForDpi(int pixelsAt96, int dpi);
+
 // The DPI of the screen (the system DPI).
 int ScreenDpi();
 

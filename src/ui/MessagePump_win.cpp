@@ -1,5 +1,7 @@
 #include "ui/MessagePump.h"
 
+#include "ui/Dialog.h"
+
 namespace quorin {
 
 void MessagePump::DoEvents() {
@@ -21,9 +23,24 @@ int MessagePump::Run() {
     return static_cast<int>(message.wParam);
 }
 
+void MessagePump::RunUntil(const std::function<bool()>& done) {
+    MSG message{};
+    while (!done()) {
+        const BOOL got = GetMessageW(&message, nullptr, 0, 0);
+        if (got <= 0) {
+            if (got == 0) {
+                PostQuitMessage(static_cast<int>(message.wParam));
+            }
+            return;
+        }
+        Dispatch(message);
+    }
+}
+
 void MessagePump::Dispatch(MSG& message) {
     const HWND active = GetActiveWindow();
-    if (active != nullptr && IsDialogMessageW(active, &message)) {
+    if (active != nullptr &&
+        (Dialog::TranslateKeys(active, message) || IsDialogMessageW(active, &message))) {
         return;
     }
     TranslateMessage(&message);

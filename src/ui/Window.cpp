@@ -1,10 +1,14 @@
 #include "ui/Window.h"
 
+#include <commctrl.h>
+#include <windowsx.h>
+
 #include <string>
 
 #include "platform/Errors.h"
 #include "platform/OsError.h"
 #include "platform/Text.h"
+#include "ui/Hourglass.h"
 
 namespace quorin {
 
@@ -28,19 +32,38 @@ LRESULT CALLBACK Window::Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARA
     return Route(hwnd, message, wParam, lParam);
 }
 
+HWND Window::CreateControl(HWND parent, const wchar_t* className, std::string_view text,
+                           DWORD style, int id, DWORD exStyle) {
+    return CreateHandle(className,
+                        {.title = text,
+                         .style = WS_CHILD | WS_VISIBLE | style,
+                         .exStyle = exStyle,
+                         .x = 0,
+                         .y = 0,
+                         .width = 0,
+                         .height = 0,
+                         .parent = parent,
+                         .id = id},
+                        nullptr);
+}
+
 void Window::Create(const wchar_t* className, const WindowSpec& layout) {
     CreateHandle(className, layout, this);
 }
 
 HWND Window::CreateHandle(const wchar_t* className, const WindowSpec& layout, void* param) {
     const std::wstring title = Widen(layout.title);
-    const HWND window = CreateWindowExW(layout.exStyle, className, title.c_str(), layout.style, layout.x,
-                                        layout.y, layout.width, layout.height, layout.parent,
+    const HWND window = CreateWindowExW(layout.exStyle, className, title.c_str(), layout.style,
+                                        layout.x, layout.y, layout.width, layout.height,
+                                        layout.parent,
                                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(layout.id)),
                                         GetModuleHandleW(nullptr), param);
     if (window == nullptr) {
-        throw Error("The window \"" + std::string(layout.title) +
-                    "\" could not be created: " + LastOsErrorText() + ".");
+        const std::string what =
+            !layout.title.empty()      ? "The window \"" + std::string(layout.title) + "\""
+            : IS_INTRESOURCE(className) ? std::string("A control")
+                                        : "A control of the class \"" + Narrow(className) + "\"";
+        throw Error(what + " could not be created: " + LastOsErrorText() + ".");
     }
     return window;
 }
@@ -50,7 +73,83 @@ Window* Window::FromHandle(HWND hwnd) {
 }
 
 LRESULT Window::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_CREATE:
+            return OnCreate(*reinterpret_cast<const CREATESTRUCTW*>(lParam)) ? 0 : -1;
+        case WM_DESTROY:
+            OnDestroy();
+            return 0;
+        case WM_CLOSE:
+            OnClose();
+            return 0;
+        case WM_SIZE:
+            OnSize(static_cast<UINT>(wParam), GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
+            return 0;
+        case WM_TIMER:
+            if (lParam != 0) {
+                break;  // a timer with its own procedure: the system calls it
+            }
+            OnTimer(wParam);
+            return 0;
+        case WM_COMMAND:
+            OnCommand(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
+            return 0;
+        case WM_NOTIFY:
+            return OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
+        case WM_CTLCOLOREDIT:
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLORLISTBOX:
+        case WM_CTLCOLORBTN:
+            if (HBRUSH brush =
+                    OnControlColor(reinterpret_cast<HWND>(lParam), reinterpret_cast<HDC>(wParam))) {
+                return reinterpret_cast<LRESULT>(brush);
+            }
+            break;
+        case WM_DPICHANGED:
+            OnDpiChanged(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
+            return 0;
+        case WM_SETCURSOR:
+            // The wait pointer stays for the whole busy stretch, whatever the mouse is over.
+            if (Hourglass::Shown()) {
+                SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+                return TRUE;
+            }
+            break;
+        default:
+            break;
+    }
+    return DefaultMessage(message, wParam, lParam);
+}
+
+LRESULT Window::DefaultMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return DefWindowProcW(hwnd_, message, wParam, lParam);
+}
+
+bool Window::OnCreate(const CREATESTRUCTW&) {
+    return true;
+}
+
+void Window::OnClose() {
+    DestroyWindow(hwnd_);
+}
+
+void Window::OnSize(UINT, int, int) {}
+
+void Window::OnTimer(UINT_PTR) {}
+
+void Window::OnCommand(int, int, HWND) {}
+
+LRESULT Window::OnNotify(const NMHDR&) {
+    return 0;
+}
+
+HBRUSH Window::OnControlColor(HWND, HDC) {
+    return nullptr;
+}
+
+void Window::OnDpiChanged(int, const RECT& suggested) {
+    SetWindowPos(hwnd_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
+                 suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void Window::Bind(HWND hwnd, Window* window) {
@@ -76,8 +175,7 @@ LRESULT Window::Route(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
                         if (message == WM_PAINT) {
                             ValidateRect(hwnd, nullptr);
                         }
-                        // A window whose creation failed is not made at all (WM_NCCREATE fails with
-                        // 0).
+                        // A window whose creation failed is not made at all.
                         return message == WM_CREATE ? -1 : 0;
                     });
     if (message == WM_NCDESTROY) {

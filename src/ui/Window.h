@@ -26,6 +26,10 @@ struct WindowSpec {
 // WM_NCCREATE, hands every message to HandleMessage and unbinds on WM_NCDESTROY; nothing a
 // handler throws leaves it (the error goes to ReportWindowError).
 //
+// HandleMessage decodes the messages every window needs and passes them to the On... members
+// with typed arguments; a window overrides those it cares about, and its own HandleMessage only
+// adds the messages that are particular to it.
+//
 // Two kinds of classes: windows owned by a C++ object (Create; the object's destructor
 // destroys the window), and windows that make their own object (SelfOwnedProcedure), which can
 // be created by class name alone, as custom controls and dialog templates do.
@@ -56,6 +60,11 @@ class Window {
         return Route(hwnd, message, wParam, lParam);
     }
 
+    // A child control of a system or registered class, visible, at (0, 0) with no size until
+    // its parent lays it out. Throws Error when it cannot be created.
+    static HWND CreateControl(HWND parent, const wchar_t* className, std::string_view text,
+                              DWORD style, int id, DWORD exStyle = 0);
+
   protected:
     Window() = default;
 
@@ -71,11 +80,31 @@ class Window {
     static Window* FromHandle(HWND hwnd);
 
     virtual LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    // What the system does with a message the window leaves alone.
+    virtual LRESULT DefaultMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+    // False from OnCreate fails the creation.
+    virtual bool OnCreate(const CREATESTRUCTW& create);
+    virtual void OnDestroy() {}
+    // The frame's close box or Alt+F4; destroys the window unless overridden.
+    virtual void OnClose();
+    virtual void OnSize(UINT sizeType, int width, int height);
+    virtual void OnTimer(UINT_PTR id);
+    virtual void OnCommand(int id, int code, HWND control);
+    virtual LRESULT OnNotify(const NMHDR& header);
+    // The colours of a child control; nullptr leaves them to the system.
+    virtual HBRUSH OnControlColor(HWND control, HDC dc);
+    // Moves the window to the place the system suggests for its new DPI.
+    virtual void OnDpiChanged(int dpi, const RECT& suggested);
+
+    // Binds a window made by the system (a dialog) to this object.
+    static void Bind(HWND hwnd, Window* window);
+    // Runs one message through the window's HandleMessage with the error boundary, and unbinds
+    // on WM_NCDESTROY. Returns the message's result.
+    static LRESULT Route(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
   private:
-    static void Bind(HWND hwnd, Window* window);
     static void Adopt(HWND hwnd, std::unique_ptr<Window> window);
-    static LRESULT Route(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
     HWND hwnd_ = nullptr;
     bool ownedByWindow_ = false;

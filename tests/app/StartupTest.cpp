@@ -24,7 +24,7 @@ class StartupTest : public ProgramFixture {
 
     bool RunMain(std::string folder = {}) {
         startup = std::make_unique<Startup>(StartupServices{
-            settings, clock, prompter, shell, index, matches, options,
+            settings, clock, prompter, shell, index, matches, options, help,
             folder.empty() ? program.Path() : folder, false, [this] { ++unloads; }});
         return startup->Main();
     }

@@ -12,17 +12,12 @@
 #include "platform/TextFile.h"
 #include "support/FileMarks.h"
 #include "support/TempFolder.h"
+#include "support/TestClock.h"
 
 namespace quorin {
 namespace {
 
 using Paths = std::vector<std::string>;
-
-class FixedClock final : public Clock {
-  public:
-    double Now() const override { return now; }
-    double now = 45000.5;
-};
 
 // The window, message boxes and event loop of a build, logged in the order the engine uses
 // them; onEvents lets a test act where a window's handlers would run.
@@ -90,7 +85,7 @@ class EngineTest : public ::testing::Test {
     TempFolder program;
     TempFolder tree;
     MemorySettingsStore settings;
-    FixedClock clock;
+    test::TestClock clock;
     ScriptedUi ui;
 };
 

@@ -14,15 +14,9 @@
 #include "platform/Clock.h"
 #include "platform/MemorySettingsStore.h"
 #include "support/TempFolder.h"
+#include "support/TestClock.h"
 
 namespace quorin {
-
-// A clock the test moves on, so that every build writes a different first line.
-class SteppingClock final : public Clock {
-  public:
-    double Now() const override { return now; }
-    double now = 45000.5;  // 2023-03-15 12:00:00
-};
 
 // A program folder, a folder tree and an engine that nobody watches, as on the console.
 class EngineFixture : public ::testing::Test {
@@ -45,7 +39,7 @@ class EngineFixture : public ::testing::Test {
     TempFolder program;
     TempFolder tree;
     MemorySettingsStore settings;
-    SteppingClock clock;
+    test::TestClock clock;  // moved on so that every build writes a different first line
     ConsolePrompter prompter{std::cerr};
     IdleEventPump events;
     SilentProgressWindow window;

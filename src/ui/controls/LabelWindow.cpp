@@ -6,6 +6,7 @@
 #include "platform/WinHandles.h"
 #include "ui/Dpi.h"
 #include "ui/PaintDc.h"
+#include "ui/WindowText.h"
 
 namespace quorin {
 
@@ -25,14 +26,11 @@ LOGFONTW FontDescription(HFONT font, HWND window) {
 }  // namespace
 
 std::string LabelWindow::Caption() const {
-    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(hwnd())) + 1, L'\0');
-    text.resize(
-        static_cast<size_t>(GetWindowTextW(hwnd(), text.data(), static_cast<int>(text.size()))));
-    return Narrow(text);
+    return WindowText(hwnd());
 }
 
 void LabelWindow::SetCaption(std::string_view caption) {
-    SetWindowTextW(hwnd(), Widen(caption).c_str());
+    SetText(hwnd(), caption);
 }
 
 bool LabelWindow::Enabled() const {
@@ -45,16 +43,9 @@ void LabelWindow::SetEnabled(bool enabled) {
 
 HWND LabelWindow::CreateLabel(ATOM atom, HWND parent, int id, std::string_view caption, int x,
                               int y) {
-    return CreateHandle(MAKEINTATOM(atom),
-                        {.title = caption,
-                         .style = WS_CHILD | WS_VISIBLE,
-                         .x = x,
-                         .y = y,
-                         .width = 0,
-                         .height = 0,
-                         .parent = parent,
-                         .id = id},
-                        nullptr);
+    const HWND label = CreateControl(parent, MAKEINTATOM(atom), caption, 0, id);
+    SetWindowPos(label, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return label;
 }
 
 SIZE LabelWindow::MeasureText(std::string_view text, bool bold) {
@@ -78,12 +69,6 @@ void LabelWindow::Repaint() {
 
 LRESULT LabelWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_CREATE:
-            OnCreate(*reinterpret_cast<const CREATESTRUCTW*>(lParam));
-            return 0;
-        case WM_SIZE:
-            UserControl_Resize();
-            return 0;
         case WM_SETFONT:
             OnSetFont(reinterpret_cast<HFONT>(wParam));
             return 0;
@@ -128,12 +113,13 @@ LRESULT LabelWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
-void LabelWindow::OnCreate(const CREATESTRUCTW& create) {
+bool LabelWindow::OnCreate(const CREATESTRUCTW& create) {
     fonts_.Reset(FontDescription(nullptr, hwnd()));
     if (create.lpszName == nullptr) {
         SetCaption(kDefaultCaption);
     }
     UserControl_Resize();
+    return true;
 }
 
 void LabelWindow::OnSetFont(HFONT font) {

@@ -73,9 +73,10 @@ class LabelWindow : public Window {
     const LabelModel& Model() const { return model_; }
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    bool OnCreate(const CREATESTRUCTW& create) override;
+    void OnSize(UINT, int, int) override { UserControl_Resize(); }
 
   private:
-    void OnCreate(const CREATESTRUCTW& create);
     void OnSetFont(HFONT font);
     void OnMouse(UINT message, LPARAM lParam);
     void OnCaptureChanged(HWND newOwner);

@@ -3,16 +3,17 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
-#include <charconv>
-
-#include "app/Help.h"
-#include "platform/Path.h"
+#include "platform/LenientConversions.h"
 #include "platform/Text.h"
 #include "resource.h"
 #include "ui/Dpi.h"
+#include "ui/FocusColors.h"
+#include "ui/Hourglass.h"
 #include "ui/MessagePump.h"
 #include "ui/PaintDc.h"
 #include "ui/WindowClass.h"
+#include "ui/WindowText.h"
+#include "ui/main/GoCommand.h"
 #include "ui/main/MainLayout.h"
 #include "ui/main/ReindexSchedule.h"
 #include "ui/main/TrayCallback.h"
@@ -57,26 +58,9 @@ void RegisterClasses() {
     ctlLinkLabel::Register();
 }
 
-std::string WindowText(HWND window) {
-    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(
-        static_cast<size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return Narrow(text);
-}
-
-void SetText(HWND window, std::string_view text) {
-    SetWindowTextW(window, Widen(text).c_str());
-}
-
 int ReadTwips(const SettingsStore& settings, std::string_view key, int defaultValue) {
-    const std::string text = settings.Get("Main", key, std::to_string(defaultValue));
-    int value = defaultValue;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    return error == std::errc{} && end == text.data() + text.size() ? value : defaultValue;
-}
-
-void SetHourglass(bool busy) {
-    SetCursor(LoadCursorW(nullptr, busy ? IDC_WAIT : IDC_ARROW));
+    return ParseWholeNumber(settings.Get("Main", key, std::to_string(defaultValue)))
+        .value_or(defaultValue);
 }
 
 // Backspace, Delete and Enter of the word box's edit field reach the main window from here.
@@ -119,7 +103,7 @@ void frmMain::Form_Load() {
     indexingIcon_.reset(Icon(IDI_INDEXING));
     SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.get()));
     SendMessageW(hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon_.get()));
-    HelpSetup(hwnd(), services_.programFolder);
+    services_.help.Setup(hwnd());
     CreateControls();
     LayOut();
     RECT frame{};
@@ -159,7 +143,7 @@ void frmMain::CreateControls() {
 
 void frmMain::CreatePanels() {
     for (int i = 0; i < kPanelCount; ++i) {
-        const DWORD shown = i == 0 ? WS_VISIBLE : 0;
+        const DWORD shown = i == kGoPanel ? WS_VISIBLE : 0;
         picPanel[i] = CreateHandle(kPanelClass,
                                    {.title = "",
                                     .style = WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | shown,
@@ -168,22 +152,72 @@ void frmMain::CreatePanels() {
                                     .id = kIdPanel + i},
                                    nullptr);
     }
-    CreateGoPanel();
-    CreateIndexPanel();
-    CreateLinkPanels();
-    CreateProgressPanel();
-}
-
-void frmMain::CreateGoPanel() {
-    lblEnterWord = AddControl(0, WC_STATICW, "Enter word:", 0, -1, {120, 165, 960, 225});
-    cboWord =
-        AddControl(0, WC_COMBOBOXW, "", CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL | WS_TABSTOP,
-                   kIdWord, {1080, 105, 3000, 1800});
-    cmdGo =
-        AddControl(0, WC_BUTTONW, "Go", BS_DEFPUSHBUTTON | WS_TABSTOP, kIdGo, {4200, 90, 900, 375});
-    lblFile = AddControl(0, WC_STATICW, "", SS_LEFTNOWORDWRAP | SS_NOPREFIX, kIdFile,
-                         {1080, 540, 4020, 225});
-    ProgressBar1 = AddControl(0, PROGRESS_CLASSW, "", 0, kIdSearchProgress, {1080, 570, 3000, 165});
+    struct ControlSpec {
+        HWND frmMain::*member;
+        int panel;
+        const wchar_t* className;
+        std::string_view text;
+        DWORD style;
+        int id;
+        RECT twips;
+    };
+    static const ControlSpec kControls[] = {
+        {&frmMain::lblEnterWord, kGoPanel, WC_STATICW, "Enter word:", 0, -1, {120, 165, 960, 225}},
+        {&frmMain::cboWord, kGoPanel, WC_COMBOBOXW, "",
+         CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL | WS_TABSTOP, kIdWord, {1080, 105, 3000, 1800}},
+        {&frmMain::cmdGo, kGoPanel, WC_BUTTONW, "Go", BS_DEFPUSHBUTTON | WS_TABSTOP, kIdGo,
+         {4200, 90, 900, 375}},
+        {&frmMain::lblFile, kGoPanel, WC_STATICW, "", SS_LEFTNOWORDWRAP | SS_NOPREFIX, kIdFile,
+         {1080, 540, 4020, 225}},
+        {&frmMain::ProgressBar1, kGoPanel, PROGRESS_CLASSW, "", 0, kIdSearchProgress,
+         {1080, 570, 3000, 165}},
+        {&frmMain::lblIndexLastUpdated, kIndexPanel, WC_STATICW, "Index last updated:", 0, -1,
+         {120, 90, 1680, 225}},
+        {&frmMain::lblLastUpdated, kIndexPanel, WC_STATICW, "", SS_NOPREFIX, kIdLastUpdated,
+         {1800, 90, 3400, 225}},
+        {&frmMain::lblUpdateInterval, kIndexPanel, WC_STATICW,
+         "Index automatically updated every 1 day(s).", 0, kIdUpdateInterval,
+         {120, 345, 5000, 225}},
+        {&frmMain::lblShutdown, kExitPanel, WC_STATICW, "Please wait while Quorin shuts down...",
+         SS_CENTER, -1, {0, 330, 5280, 225}},
+        {&frmMain::Animation1, kProgressPanel, ANIMATE_CLASSW, "",
+         ACS_CENTER | ACS_TRANSPARENT | ACS_AUTOPLAY, kIdAnimation, {0, 0, 1440, 900}},
+        {&frmMain::lblPleaseWait, kProgressPanel, WC_STATICW,
+         "Please wait while Quorin indexes your hard drive. Depending on how much stuff you "
+         "have, this may take a few minutes...",
+         0, -1, {1500, 30, 3780, 600}},
+        {&frmMain::lblFolders, kProgressPanel, WC_STATICW, "# of folders indexed:", SS_NOPREFIX, -1,
+         {1500, 660, 1650, 225}},
+        {&frmMain::lblCounter, kProgressPanel, WC_STATICW, "", 0, kIdCounter,
+         {3150, 660, 1200, 225}},
+    };
+    struct LinkSpec {
+        ctlLinkLabel* frmMain::*member;
+        int panel;
+        int id;
+        std::string_view caption;
+        int left;
+        int top;
+    };
+    static const LinkSpec kLinks[] = {
+        {&frmMain::lnkUpdate, kIndexPanel, kIdUpdate, "Update Index Now", 120, 600},
+        {&frmMain::lnkGeneralOptions, kOptionsPanel, kIdGeneralOptions, "General Options", 120,
+         90},
+        {&frmMain::lnkFileTypes, kOptionsPanel, kIdFileTypes,
+         "Change file types that are indexed", 120, 345},
+        {&frmMain::lnkWords, kOptionsPanel, kIdWords, "Add/delete assigned words", 120, 600},
+        {&frmMain::lnkHelp, kHelpPanel, kIdHelp, "Click here for help", 120, 90},
+        {&frmMain::lnkQuorin, kHelpPanel, kIdQuorinPage, "Quorin", 120, 345},
+        {&frmMain::lnkVeltaro, kHelpPanel, kIdVeltaroPage, "Veltaro, Inc.", 120, 600},
+        {&frmMain::lnkCancel, kProgressPanel, kIdCancel, "Cancel", 4560, 660},
+    };
+    for (const ControlSpec& control : kControls) {
+        this->*control.member = AddControl(control.panel, control.className, control.text,
+                                           control.style, control.id, control.twips);
+    }
+    for (const LinkSpec& link : kLinks) {
+        this->*link.member = AddLink(link.panel, link.id, link.caption, link.left, link.top);
+    }
     ShowWindow(ProgressBar1, SW_HIDE);
     SubclassWordEdit();
 }
@@ -196,53 +230,10 @@ void frmMain::SubclassWordEdit() {
                       reinterpret_cast<DWORD_PTR>(hwnd()));
 }
 
-void frmMain::CreateIndexPanel() {
-    lblIndexLastUpdated =
-        AddControl(1, WC_STATICW, "Index last updated:", 0, -1, {120, 90, 1680, 225});
-    lblLastUpdated =
-        AddControl(1, WC_STATICW, "", SS_NOPREFIX, kIdLastUpdated, {1800, 90, 3400, 225});
-    lblUpdateInterval = AddControl(1, WC_STATICW, "Index automatically updated every 1 day(s).", 0,
-                                   kIdUpdateInterval, {120, 345, 5000, 225});
-    lnkUpdate = AddLink(1, kIdUpdate, "Update Index Now", 120, 600);
-}
-
-void frmMain::CreateLinkPanels() {
-    lnkGeneralOptions = AddLink(2, kIdGeneralOptions, "General Options", 120, 90);
-    lnkFileTypes = AddLink(2, kIdFileTypes, "Change file types that are indexed", 120, 345);
-    lnkWords = AddLink(2, kIdWords, "Add/delete assigned words", 120, 600);
-    lnkHelp = AddLink(3, kIdHelp, "Click here for help", 120, 90);
-    lnkQuorin = AddLink(3, kIdQuorinPage, "Quorin", 120, 345);
-    lnkVeltaro = AddLink(3, kIdVeltaroPage, "Veltaro, Inc.", 120, 600);
-    lblShutdown = AddControl(4, WC_STATICW, "Please wait while Quorin shuts down...", SS_CENTER, -1,
-                             {0, 330, 5280, 225});
-}
-
-void frmMain::CreateProgressPanel() {
-    Animation1 = AddControl(5, ANIMATE_CLASSW, "", ACS_CENTER | ACS_TRANSPARENT | ACS_AUTOPLAY,
-                            kIdAnimation, {0, 0, 1440, 900});
-    lblPleaseWait = AddControl(
-        5, WC_STATICW,
-        "Please wait while Quorin indexes your hard drive. Depending on how much stuff you have, "
-        "this may take a few minutes...",
-        0, -1, {1500, 30, 3780, 600});
-    lblFolders =
-        AddControl(5, WC_STATICW, "# of folders indexed:", SS_NOPREFIX, -1, {1500, 660, 1650, 225});
-    lblCounter = AddControl(5, WC_STATICW, "", 0, kIdCounter, {3150, 660, 1200, 225});
-    lnkCancel = AddLink(5, kIdCancel, "Cancel", 4560, 660);
-}
-
 HWND frmMain::AddControl(int panel, const wchar_t* className, std::string_view text, DWORD style,
                          int id, RECT twips) {
-    HWND control = CreateHandle(className,
-                                {.title = text,
-                                 .style = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | style,
-                                 .x = 0,
-                                 .y = 0,
-                                 .width = 0,
-                                 .height = 0,
-                                 .parent = picPanel[panel],
-                                 .id = id},
-                                nullptr);
+    const HWND control =
+        CreateControl(picPanel[panel], className, text, WS_CLIPSIBLINGS | style, id);
     placements_.push_back({control, twips});
     return control;
 }
@@ -308,7 +299,7 @@ void frmMain::LayOut() {
     }
 }
 
-void frmMain::OnDpiChanged(const RECT& suggested) {
+void frmMain::OnDpiChanged(int, const RECT& suggested) {
     SetWindowPos(hwnd(), nullptr, suggested.left, suggested.top, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     LayOut();
@@ -346,6 +337,12 @@ void frmMain::EnableTabs() {
 // thread busy (a build, the unload), so no paint message would be handled meanwhile.
 void frmMain::Repaint() {
     RedrawWindow(hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+void frmMain::SelectPanel(int panel) {
+    tabLabel[panel]->SetSelected(true);
+    currentTab_ = panel;
+    ShowPanel();
 }
 
 void frmMain::ShowPanel() {
@@ -390,16 +387,8 @@ void frmMain::Hide() {
 
 LRESULT frmMain::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_COMMAND:
-            OnCommand(LOWORD(wParam), HIWORD(wParam));
-            return 0;
         case kWordKeyDown:
             cboWord_KeyDown(static_cast<int>(wParam));
-            return 0;
-        case WM_TIMER:
-            if (wParam == kTimer1Id) {
-                Timer1_Timer();
-            }
             return 0;
         case WM_MOUSEMOVE:
             Form_MouseMove(wParam, lParam);
@@ -410,30 +399,13 @@ LRESULT frmMain::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 return 0;
             }
             break;
-        case WM_CLOSE:
-            if (!Form_QueryUnload(true)) {
-                Unload();
-            }
-            return 0;
         case WM_ENDSESSION:
             if (wParam != FALSE) {
                 Unload();
             }
             return 0;
-        case WM_SIZE:
-            Form_Resize(wParam);
-            return 0;
         case WM_PAINT:
             Form_Paint();
-            return 0;
-        case WM_CTLCOLOREDIT:
-            if (HBRUSH brush =
-                    FocusColors(reinterpret_cast<HWND>(lParam), reinterpret_cast<HDC>(wParam))) {
-                return reinterpret_cast<LRESULT>(brush);
-            }
-            break;
-        case WM_DPICHANGED:
-            OnDpiChanged(*reinterpret_cast<const RECT*>(lParam));
             return 0;
         default:
             if (message == taskbarCreated_ && taskbarCreated_ != 0) {
@@ -445,28 +417,39 @@ LRESULT frmMain::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return Window::HandleMessage(message, wParam, lParam);
 }
 
-void frmMain::OnCommand(int id, int code) {
-    if (id >= kIdTab && id < kIdTab + kTabCount && code == kLabelClick) {
-        tabLabel_Click(id - kIdTab);
-        return;
+void frmMain::OnClose() {
+    if (!Form_QueryUnload(true)) {
+        Unload();
     }
-    if (id == kIdWord) {
-        switch (code) {
-            case CBN_EDITCHANGE:
-                cboWord_Change();
-                break;
-            case CBN_SETFOCUS:
-                cboWord_GotFocus();
-                break;
-            case CBN_KILLFOCUS:
-                cboWord_LostFocus();
-                break;
-            default:
-                break;
+}
+
+void frmMain::OnSize(UINT sizeType, int, int) {
+    if (sizeType == SIZE_MINIMIZED) {
+        ShowWindow(hwnd(), SW_HIDE);
+    }
+}
+
+void frmMain::OnTimer(UINT_PTR id) {
+    if (id == kTimer1Id) {
+        Timer1_Timer();
+    }
+}
+
+HBRUSH frmMain::OnControlColor(HWND control, HDC dc) {
+    return FocusColors(control, dc);
+}
+
+void frmMain::OnCommand(int id, int code, HWND) {
+    if (id >= kIdTab && id < kIdTab + kTabCount) {
+        if (code == kLabelClick) {
+            tabLabel_Click(id - kIdTab);
         }
         return;
     }
     switch (id) {
+        case kIdWord:
+            cboWord_Command(code);
+            break;
         case kIdGo:
             cmdGo_Click();
             break;
@@ -505,6 +488,22 @@ void frmMain::OnCommand(int id, int code) {
     }
 }
 
+void frmMain::cboWord_Command(int code) {
+    switch (code) {
+        case CBN_EDITCHANGE:
+            cboWord_Change();
+            break;
+        case CBN_SETFOCUS:
+            cboWord_GotFocus();
+            break;
+        case CBN_KILLFOCUS:
+            cboWord_LostFocus();
+            break;
+        default:
+            break;
+    }
+}
+
 void frmMain::Form_Paint() {
     PaintDc paint(hwnd());
     RECT tabRow{};
@@ -513,8 +512,12 @@ void frmMain::Form_Paint() {
     FillRect(paint.get(), &tabRow, GetSysColorBrush(COLOR_BTNSHADOW));
 }
 
+// Where the word box cannot take the focus (another panel is shown), the focus stays where it
+// is, so that keys never reach a hidden box.
 void frmMain::Form_Activate() {
-    SetFocus(cboWord);
+    if (IsWindowVisible(cboWord)) {
+        SetFocus(cboWord);
+    }
 }
 
 bool frmMain::Form_QueryUnload(bool userClose) {
@@ -527,12 +530,6 @@ bool frmMain::Form_QueryUnload(bool userClose) {
     ShowWindow(hwnd(), SW_MINIMIZE);
     ShowWindow(hwnd(), SW_HIDE);
     return true;
-}
-
-void frmMain::Form_Resize(WPARAM sizeType) {
-    if (sizeType == SIZE_MINIMIZED) {
-        ShowWindow(hwnd(), SW_HIDE);
-    }
 }
 
 void frmMain::Unload() {
@@ -549,13 +546,14 @@ void frmMain::Unload() {
 }
 
 void frmMain::Form_Unload() {
-    SetHourglass(true);
-    services_.settings.Save("Main", "StartX", std::to_string(startX_));
-    services_.settings.Save("Main", "StartY", std::to_string(startY_));
-    services_.index.Release();
-    services_.tray.RemoveIcon();
-    SetHourglass(false);
-    CloseHelp();
+    {
+        const Hourglass busy;
+        services_.settings.Save("Main", "StartX", std::to_string(startX_));
+        services_.settings.Save("Main", "StartY", std::to_string(startY_));
+        services_.index.Release();
+        services_.tray.RemoveIcon();
+    }
+    services_.help.Close();
 }
 
 void frmMain::StorePosition() {
@@ -609,17 +607,13 @@ void frmMain::tabLabel_Click(int Index) {
     currentTab_ = Index;
     ShowPanel();
     switch (Index) {
-        case 0:
+        case kGoPanel:
             SetFocus(cboWord);
             break;
-        case 1: {
-            const clsIndex& index = services_.index.Get();
-            SetText(lblLastUpdated, FormatLocalDateTime(index.LastUpdated));
-            SetText(lblUpdateInterval, "The index is automatically updated every " +
-                                           std::to_string(index.UpdateInterval) + " hour(s).");
+        case kIndexPanel:
+            UpdateIndexPanel();
             break;
-        }
-        case kExitTab:
+        case kExitPanel:
             DisableTabs();
             Repaint();
             Unload();
@@ -627,6 +621,13 @@ void frmMain::tabLabel_Click(int Index) {
         default:
             break;
     }
+}
+
+void frmMain::UpdateIndexPanel() {
+    const clsIndex& index = services_.index.Get();
+    SetText(lblLastUpdated, FormatLocalDateTime(index.LastUpdated));
+    SetText(lblUpdateInterval, "The index is automatically updated every " +
+                                   std::to_string(index.UpdateInterval) + " hour(s).");
 }
 
 void frmMain::cboWord_KeyDown(int KeyCode) {
@@ -667,40 +668,28 @@ void frmMain::cboWord_LostFocus() {
     UnhighlightControl(cboWord);
 }
 
-void frmMain::OpenFile(const std::string& folder, const std::string& fileName,
-                       const std::string& workingFolder) {
-    services_.shell.Open(JoinPath(folder, fileName), "", workingFolder, kShowNormal);
-}
-
 void frmMain::cmdGo_Click() {
     const std::string word = WindowText(cboWord);
-    if (word.empty()) {
-        return;
+    GoAction action = DecideGo(services_.index.Get(), word, *this);
+    switch (action.kind) {
+        case GoAction::Kind::OpenAssigned:
+            SetText(lblFile, "Opening " + word + "...");
+            services_.shell.Open(action.file, "", action.workingFolder, kShowNormal);
+            StorePosition();
+            ShowWindow(hwnd(), SW_HIDE);
+            SetText(lblFile, "");
+            break;
+        case GoAction::Kind::OpenMatch:
+            services_.shell.Open(action.file, "", action.workingFolder, kShowNormal);
+            break;
+        case GoAction::Kind::ChooseMatch:
+            services_.matches.ShowMatches(word, *action.matches);
+            StorePosition();
+            ShowWindow(hwnd(), SW_HIDE);
+            break;
+        case GoAction::Kind::None:
+            break;
     }
-    clsIndex& index = services_.index.Get();
-    if (const clsItem* assigned = index.Words().Item(word)) {
-        const clsItem item = *assigned;
-        SetText(lblFile, "Opening " + word + "...");
-        const std::string folder = index.GetPath(item.Directory);
-        OpenFile(folder, item.Filename, folder + kPathSeparator);
-        StorePosition();
-        ShowWindow(hwnd(), SW_HIDE);
-        SetText(lblFile, "");
-        return;
-    }
-    const std::optional<MatchList> matches = index.FindMatch(word, this);
-    if (!matches || matches->Count() == 0) {
-        return;
-    }
-    if (matches->Count() > 1) {
-        services_.matches.ShowMatches(word, *matches);
-        StorePosition();
-        ShowWindow(hwnd(), SW_HIDE);
-        return;
-    }
-    const clsItem item = matches->Item(1);
-    const std::string folder = index.GetPath(item.Directory);
-    OpenFile(folder, item.Filename, folder);
 }
 
 void frmMain::Timer1_Timer() {
@@ -719,13 +708,11 @@ void frmMain::lnkCancel_Click() {
 }
 
 void frmMain::lnkHelp_Click() {
-    ShowHelpTopic(kHelpUsingQuorin);
+    services_.help.ShowTopic(kHelpUsingQuorin);
 }
 
 void frmMain::mnuSystrayGo_Click() {
-    tabLabel[0]->SetSelected(true);
-    currentTab_ = 0;
-    ShowPanel();
+    SelectPanel(kGoPanel);
     ShowInFront();
 }
 
@@ -734,9 +721,7 @@ void frmMain::mnuSystrayExit_Click() {
         ShowCannotExit();
         return;
     }
-    tabLabel[kExitTab]->SetSelected(true);
-    currentTab_ = kExitTab;
-    ShowPanel();
+    SelectPanel(kExitPanel);
     DisableTabs();
     ShowInFront();
     Unload();

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "app/modGlobals.h"
 #include "index/IndexProgress.h"
+#include "index/LazyIndex.h"
 #include "platform/Clock.h"
 #include "platform/Prompter.h"
 #include "platform/SettingsStore.h"
@@ -18,6 +18,7 @@
 #include "ui/Window.h"
 #include "ui/controls/ctlLinkLabel.h"
 #include "ui/controls/ctlTabLabel.h"
+#include "ui/help/Help.h"
 #include "ui/main/MatchesOpener.h"
 #include "ui/main/OptionsOpener.h"
 #include "ui/main/WordCompletion.h"
@@ -28,8 +29,16 @@ namespace quorin {
 inline constexpr wchar_t kMainWindowClass[] = L"QuorinMain";
 inline constexpr int kTabCount = 5;
 inline constexpr int kPanelCount = 6;
-inline constexpr int kProgressPanel = 5;
-inline constexpr int kExitTab = 4;
+
+// The panels, numbered as their tabs; the progress of a build has no tab of its own.
+enum MainPanel : int {
+    kGoPanel = 0,
+    kIndexPanel = 1,
+    kOptionsPanel = 2,
+    kHelpPanel = 3,
+    kExitPanel = 4,
+    kProgressPanel = 5,
+};
 inline constexpr UINT_PTR kTimer1Id = 1;
 
 // Control ids, so that tests can find the controls of the real window.
@@ -70,7 +79,7 @@ struct MainServices {
     clsSysTray& tray;
     MatchesOpener& matches;
     OptionsOpener& options;
-    std::string programFolder;         // holds the help file
+    Help& help;
     std::function<void()> onUnloaded;  // the program ends with the main window
 };
 
@@ -107,17 +116,21 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
 
   protected:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void OnClose() override;
+    void OnSize(UINT sizeType, int width, int height) override;
+    void OnTimer(UINT_PTR id) override;
+    void OnCommand(int id, int code, HWND control) override;
+    HBRUSH OnControlColor(HWND control, HDC dc) override;
+    void OnDpiChanged(int dpi, const RECT& suggested) override;
 
   private:
     void Form_Load();
     void Form_Activate();
     bool Form_QueryUnload(bool userClose);  // true cancels the unload
-    void Form_Resize(WPARAM sizeType);
     void Form_Unload();
     void Form_MouseMove(WPARAM wParam, LPARAM lParam);
     void Form_Paint();
-    void OnCommand(int id, int code);
-    void OnDpiChanged(const RECT& suggested);
+    void cboWord_Command(int code);
 
     void tabLabel_Click(int Index);
     void cboWord_KeyDown(int KeyCode);
@@ -134,10 +147,6 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
 
     void CreateControls();
     void CreatePanels();
-    void CreateGoPanel();
-    void CreateIndexPanel();
-    void CreateLinkPanels();
-    void CreateProgressPanel();
     void SubclassWordEdit();
     void LayOut();
     void ShowPanel();
@@ -146,8 +155,8 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     void RestoreFromTray();
     void StorePosition();
     void ShowCannotExit();
-    void OpenFile(const std::string& folder, const std::string& fileName,
-                  const std::string& workingFolder);
+    void SelectPanel(int panel);
+    void UpdateIndexPanel();
     // Adds a child to a panel at a place in twips (a width of 0 keeps the control's own size).
     HWND AddControl(int panel, const wchar_t* className, std::string_view text, DWORD style, int id,
                     RECT twips);

@@ -13,7 +13,9 @@
 #include "platform/Shell.h"
 #include "platform/Text.h"
 #include "ui/Dpi.h"
+#include "ui/Hourglass.h"
 #include "ui/WindowClass.h"
+#include "ui/WindowText.h"
 #include "ui/matches/MatchesLayout.h"
 
 namespace quorin {
@@ -39,13 +41,6 @@ void RegisterMatchesClass() {
     static_cast<void>(atom);
 }
 
-HWND CreateControl(HWND parent, const wchar_t* className, const wchar_t* text, DWORD style, int id,
-                   DWORD exStyle = 0) {
-    return CreateWindowExW(exStyle, className, text, WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0,
-                           parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                           GetModuleHandleW(nullptr), nullptr);
-}
-
 void AddColumn(HWND list, int column, const wchar_t* title, int width) {
     LVCOLUMNW header{};
     header.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
@@ -68,10 +63,6 @@ int PixelsCovering(int twips, int dpi) {
         ++pixels;
     }
     return pixels;
-}
-
-void SetCursorShape(const wchar_t* shape) {
-    SetCursor(LoadCursorW(nullptr, shape));
 }
 
 }  // namespace
@@ -101,14 +92,13 @@ frmMatches& frmMatches::Load(const MatchesHost& host) {
 void frmMatches::Show() {
     ShowWindow(hwnd(), SW_SHOWNORMAL);
     SetForegroundWindow(hwnd());
-    SetFocus(lvwItems_);
+    SetFocus(lvwItems);
 }
 
 void frmMatches::Matches(MatchList matches) {
-    SetCursorShape(IDC_WAIT);
-    SetWindowTextW(Label1_, Widen(std::to_string(matches.Count()) +
-                                  " matches found. Please choose from the following.")
-                                .c_str());
+    const Hourglass busy;
+    SetText(Label1,
+            std::to_string(matches.Count()) + " matches found. Please choose from the following.");
     UpdateWindow(hwnd());
     matches_ = std::move(matches);
     try {
@@ -116,31 +106,17 @@ void frmMatches::Matches(MatchList matches) {
             AddRow(matches_->Item(position));
         }
     } catch (const std::exception& error) {
-        // The rows so far stay; the hourglass is left as it is.
+        // The rows so far stay.
         host_->prompter.Ask(kSection, error.what(), PromptButtons::Ok, PromptIcon::Critical);
         return;
     }
     SelectRow(0);
-    SetCursorShape(IDC_ARROW);
 }
 
 LRESULT frmMatches::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_CREATE:
-            Form_Load(*static_cast<const MatchesHost*>(
-                reinterpret_cast<const CREATESTRUCTW*>(lParam)->lpCreateParams));
-            return 0;
-        case WM_SIZE:
-            Form_Resize();
-            return 0;
         case WM_SETFOCUS:
-            SetFocus(lvwItems_);
-            return 0;
-        case WM_COMMAND:
-            OnCommand(LOWORD(wParam), HIWORD(wParam));
-            return 0;
-        case WM_NOTIFY:
-            OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
+            SetFocus(lvwItems);
             return 0;
         case kListDoubleClick:
             lvwItems_DblClick();
@@ -148,21 +124,20 @@ LRESULT frmMatches::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case kListKeyPress:
             lvwItems_KeyPress(static_cast<int>(wParam));
             return 0;
-        case WM_DPICHANGED: {
-            dpi_ = HIWORD(wParam);
-            ApplyFont();
-            const auto& suggested = *reinterpret_cast<const RECT*>(lParam);
-            SetWindowPos(hwnd(), nullptr, suggested.left, suggested.top,
-                         suggested.right - suggested.left, suggested.bottom - suggested.top,
-                         SWP_NOZORDER | SWP_NOACTIVATE);
-            return 0;
-        }
-        case WM_DESTROY:
-            Form_Unload();
-            return 0;
         default:
             return Window::HandleMessage(message, wParam, lParam);
     }
+}
+
+bool frmMatches::OnCreate(const CREATESTRUCTW& create) {
+    Form_Load(*static_cast<const MatchesHost*>(create.lpCreateParams));
+    return true;
+}
+
+void frmMatches::OnDpiChanged(int dpi, const RECT& suggested) {
+    dpi_ = dpi;
+    ApplyFont();
+    Window::OnDpiChanged(dpi, suggested);
 }
 
 void frmMatches::Form_Load(const MatchesHost& host) {
@@ -172,15 +147,15 @@ void frmMatches::Form_Load(const MatchesHost& host) {
     ApplyFont();
     RestorePlace();
 
-    const int iconSize = MulDiv(kSmallIconPixels, dpi_, USER_DEFAULT_SCREEN_DPI);
-    imlLarge_.reset(ImageList_Create(iconSize, iconSize, ILC_COLOR32 | ILC_MASK, 0, 8));
-    imlSmall_.reset(ImageList_Create(iconSize, iconSize, ILC_COLOR32 | ILC_MASK, 0, 8));
+    const int iconSize = ScaleForDpi(kSmallIconPixels, dpi_);
+    imlLarge.reset(ImageList_Create(iconSize, iconSize, ILC_COLOR32 | ILC_MASK, 0, 8));
+    imlSmall.reset(ImageList_Create(iconSize, iconSize, ILC_COLOR32 | ILC_MASK, 0, 8));
     // Crossed on purpose: the extractor answers with the index in the list it was given as
     // large, and that list is the one the rows take their small icons from. Both lists get the
     // same image at the same index.
-    ctlIconExtractor1_.ImageListSmall(imlLarge_.get());
-    ctlIconExtractor1_.ImageListLarge(imlSmall_.get());
-    ListView_SetImageList(lvwItems_, imlSmall_.get(), LVSIL_SMALL);
+    ctlIconExtractor1.ImageListSmall(imlLarge.get());
+    ctlIconExtractor1.ImageListLarge(imlSmall.get());
+    ListView_SetImageList(lvwItems, imlSmall.get(), LVSIL_SMALL);
 
     SendMessageW(hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(host.icon));
     SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(host.icon));
@@ -206,10 +181,10 @@ void frmMatches::Form_Resize() {
     const MatchesLayout layout =
         ArrangeMatches({PixelsToTwips(client.right, dpi_) + kMatchesDesignedFrame.width,
                         PixelsToTwips(client.bottom, dpi_) + kMatchesDesignedFrame.height});
-    Place(Label1_, layout.Label1, dpi_);
-    Place(lvwItems_, layout.lvwItems, dpi_);
-    Place(cmdOpen_, layout.cmdOpen, dpi_);
-    Place(chkAssociate_, layout.chkAssociate, dpi_);
+    Place(Label1, layout.Label1, dpi_);
+    Place(lvwItems, layout.lvwItems, dpi_);
+    Place(cmdOpen, layout.cmdOpen, dpi_);
+    Place(chkAssociate, layout.chkAssociate, dpi_);
 }
 
 // A minimized window saves its minimized place and size like any other.
@@ -240,9 +215,10 @@ void frmMatches::lvwItems_DblClick() {
     if (!row) {
         return;
     }
-    SetCursorShape(IDC_WAIT);
-    OpenRow(*row);
-    SetCursorShape(IDC_ARROW);
+    {
+        const Hourglass busy;
+        OpenRow(*row);
+    }
     Unload();
 }
 
@@ -258,9 +234,9 @@ void frmMatches::lvwItems_ColumnClick(int column) {
     ShowSortArrow();
 }
 
-void frmMatches::OnNotify(const NMHDR& header) {
-    if (header.hwndFrom != lvwItems_) {
-        return;
+LRESULT frmMatches::OnNotify(const NMHDR& header) {
+    if (header.hwndFrom != lvwItems) {
+        return 0;
     }
     switch (header.code) {
         case LVN_COLUMNCLICK:
@@ -275,16 +251,17 @@ void frmMatches::OnNotify(const NMHDR& header) {
         default:
             break;
     }
+    return 0;
 }
 
 // The dialog manager turns Enter into a click of Open and Escape into IDCANCEL; Enter in the list
 // is the list's own key.
-void frmMatches::OnCommand(int id, int code) {
+void frmMatches::OnCommand(int id, int code, HWND) {
     if (code != BN_CLICKED) {
         return;
     }
     if (id == kMatchesOpenId) {
-        if (GetFocus() == lvwItems_) {
+        if (GetFocus() == lvwItems) {
             lvwItems_KeyPress(VK_RETURN);
         } else {
             cmdOpen_Click();
@@ -296,28 +273,28 @@ void frmMatches::OnCommand(int id, int code) {
 
 // Made in tab order: the list, the check box, Open.
 void frmMatches::CreateControls() {
-    Label1_ = CreateControl(
+    Label1 = CreateControl(
         hwnd(), L"STATIC",
-        L"Quorin found multiple matches for your keyword. Please choose from the following:",
+        "Quorin found multiple matches for your keyword. Please choose from the following:",
         SS_LEFT | SS_NOPREFIX, kMatchesLabelId);
-    lvwItems_ = CreateControl(
-        hwnd(), WC_LISTVIEWW, L"",
+    lvwItems = CreateControl(
+        hwnd(), WC_LISTVIEWW, "",
         WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
         kMatchesListId, WS_EX_CLIENTEDGE);
-    ListView_SetExtendedListViewStyle(lvwItems_, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
-    AddColumn(lvwItems_, MatchesSort::kName, L"Name", TwipsToPixels(kNameColumnTwips, dpi_));
-    AddColumn(lvwItems_, MatchesSort::kLocation, L"Location",
+    ListView_SetExtendedListViewStyle(lvwItems, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
+    AddColumn(lvwItems, MatchesSort::kName, L"Name", TwipsToPixels(kNameColumnTwips, dpi_));
+    AddColumn(lvwItems, MatchesSort::kLocation, L"Location",
               TwipsToPixels(kLocationColumnTwips, dpi_));
-    chkAssociate_ = CreateControl(hwnd(), L"BUTTON", L"Always associate this word with this item",
+    chkAssociate = CreateControl(hwnd(), L"BUTTON", "Always associate this word with this item",
                                   WS_TABSTOP | BS_AUTOCHECKBOX, kMatchesAssociateId);
-    cmdOpen_ =
-        CreateControl(hwnd(), L"BUTTON", L"Open", WS_TABSTOP | BS_DEFPUSHBUTTON, kMatchesOpenId);
+    cmdOpen =
+        CreateControl(hwnd(), L"BUTTON", "Open", WS_TABSTOP | BS_DEFPUSHBUTTON, kMatchesOpenId);
 }
 
 void frmMatches::ApplyFont() {
     const LOGFONTW logFont = MessageFont(dpi_);
     UniqueFont font(CreateFontIndirectW(&logFont));
-    for (HWND control : {Label1_, lvwItems_, chkAssociate_, cmdOpen_}) {
+    for (HWND control : {Label1, lvwItems, chkAssociate, cmdOpen}) {
         SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
     }
     // The controls have let go of the old font.
@@ -338,34 +315,34 @@ void frmMatches::RestorePlace() {
 
 void frmMatches::AddRow(const clsItem& item) {
     const std::string folder = host_->index.GetPath(item.Directory);
-    const std::optional<int> image = ctlIconExtractor1_.RetrieveFileIcon(item.Filename, folder);
+    const std::optional<int> image = ctlIconExtractor1.RetrieveFileIcon(item.Filename, folder);
     Row& added = rows_.emplace_back(
         Row{Widen(item.Filename), Widen(folder), JoinPath(folder, item.Filename)});
     LVITEMW row{};
     row.mask = LVIF_TEXT | LVIF_IMAGE | LVIF_PARAM;
-    row.iItem = ListView_GetItemCount(lvwItems_);
+    row.iItem = ListView_GetItemCount(lvwItems);
     row.pszText = added.name.data();
     row.iImage = image.value_or(I_IMAGENONE);
     row.lParam = static_cast<LPARAM>(rows_.size() - 1);
-    const int inserted = ListView_InsertItem(lvwItems_, &row);
-    ListView_SetItemText(lvwItems_, inserted, MatchesSort::kLocation, added.location.data());
+    const int inserted = ListView_InsertItem(lvwItems, &row);
+    ListView_SetItemText(lvwItems, inserted, MatchesSort::kLocation, added.location.data());
 }
 
 void frmMatches::SelectRow(int row) {
     const UINT state = LVIS_SELECTED | LVIS_FOCUSED;
-    ListView_SetItemState(lvwItems_, row, state, state);
-    ListView_EnsureVisible(lvwItems_, row, FALSE);
+    ListView_SetItemState(lvwItems, row, state, state);
+    ListView_EnsureVisible(lvwItems, row, FALSE);
 }
 
 std::optional<int> frmMatches::SelectedRow() const {
-    const int row = ListView_GetNextItem(lvwItems_, -1, LVNI_SELECTED);
+    const int row = ListView_GetNextItem(lvwItems, -1, LVNI_SELECTED);
     return row < 0 ? std::nullopt : std::optional<int>(row);
 }
 
 // The word goes to the item at the row's current position in the collection, which after a
 // sort need not be the row's own file; the file opened is always the row's own.
 void frmMatches::OpenRow(int row) {
-    if (Button_GetCheck(chkAssociate_) == BST_CHECKED) {
+    if (Button_GetCheck(chkAssociate) == BST_CHECKED) {
         clsItem item = matches_->Item(row + 1);
         item.Word = word_;
         host_->index.AddWord(item);
@@ -381,7 +358,7 @@ const frmMatches::Row& frmMatches::RowAt(int row) const {
     LVITEMW item{};
     item.mask = LVIF_PARAM;
     item.iItem = row;
-    ListView_GetItem(lvwItems_, &item);
+    ListView_GetItem(lvwItems, &item);
     return rows_.at(static_cast<size_t>(item.lParam));
 }
 
@@ -400,11 +377,11 @@ int CALLBACK frmMatches::CompareRows(LPARAM first, LPARAM second, LPARAM self) {
 }
 
 void frmMatches::SortRows() {
-    ListView_SortItems(lvwItems_, &CompareRows, reinterpret_cast<LPARAM>(this));
+    ListView_SortItems(lvwItems, &CompareRows, reinterpret_cast<LPARAM>(this));
 }
 
 void frmMatches::ShowSortArrow() {
-    const HWND header = ListView_GetHeader(lvwItems_);
+    const HWND header = ListView_GetHeader(lvwItems);
     for (int column : {MatchesSort::kName, MatchesSort::kLocation}) {
         HDITEMW item{};
         item.mask = HDI_FORMAT;

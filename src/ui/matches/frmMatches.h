@@ -60,6 +60,12 @@ class frmMatches final : public Window {
 
   protected:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    bool OnCreate(const CREATESTRUCTW& create) override;
+    void OnDestroy() override { Form_Unload(); }
+    void OnSize(UINT, int, int) override { Form_Resize(); }
+    void OnCommand(int id, int code, HWND control) override;
+    LRESULT OnNotify(const NMHDR& header) override;
+    void OnDpiChanged(int dpi, const RECT& suggested) override;
 
   private:
     struct Row {
@@ -79,8 +85,6 @@ class frmMatches final : public Window {
     void lvwItems_DblClick();
     void lvwItems_KeyPress(int key);
     void lvwItems_ColumnClick(int column);
-    void OnNotify(const NMHDR& header);
-    void OnCommand(int id, int code);
 
     void CreateControls();
     void ApplyFont();
@@ -101,14 +105,14 @@ class frmMatches final : public Window {
     MatchesSort sort_;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
 
-    HWND Label1_ = nullptr;
-    HWND lvwItems_ = nullptr;
-    HWND chkAssociate_ = nullptr;
-    HWND cmdOpen_ = nullptr;
+    HWND Label1 = nullptr;
+    HWND lvwItems = nullptr;
+    HWND chkAssociate = nullptr;
+    HWND cmdOpen = nullptr;
     UniqueFont font_;
-    UniqueImageList imlLarge_;
-    UniqueImageList imlSmall_;
-    ctlIconExtractor ctlIconExtractor1_;
+    UniqueImageList imlLarge;
+    UniqueImageList imlSmall;
+    ctlIconExtractor ctlIconExtractor1;
 };
 
 }  // namespace quorin

@@ -5,12 +5,12 @@
 
 #include <string>
 
-#include "app/Help.h"
-#include "app/Splash.h"
+#include "ui/splash/Splash.h"
 #include "platform/Path.h"
 #include "platform/Text.h"
 #include "platform/WinHandles.h"
 #include "ui/MessagePump.h"
+#include "ui/help/ProgramHelp.h"
 
 namespace {
 
@@ -41,8 +41,9 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
         return MessagePump::Run();
     }
     if (what == L"help") {
-        HelpSetup(nullptr);
-        ShowHelpTopic(kHelpUsingQuorin);
+        ProgramHelp help(ExecutableFolder());
+        help.Setup(nullptr);
+        help.ShowTopic(kHelpUsingQuorin);
         return MessagePump::Run();
     }
     if (what == L"animation") {

@@ -72,14 +72,15 @@ int Run(const std::string& folder) {
     clsSysTray tray;
     FakeMatchesOpener matches;
     FakeOptionsOpener options;
-    frmMain form(MainServices{settings, clock, prompter, shell, index, tray, matches, options,
-                              program.Path(), nullptr});
+    RecordingHelp help;
+    frmMain form(MainServices{settings, clock, prompter, shell, index, tray, matches, options, help,
+                              nullptr});
     form.Show();
     PumpFor(pump, std::chrono::seconds(2));
     // What a click on the tab does: it selects itself, then tells the window.
-    const HWND exitTab = form.Control(kIdTab + kExitTab);
+    const HWND exitTab = form.Control(kIdTab + int{kExitPanel});
     ctlTabLabel::From(exitTab)->SetSelected(true);
-    SendMessageW(form.hwnd(), WM_COMMAND, MAKEWPARAM(kIdTab + kExitTab, kLabelClick),
+    SendMessageW(form.hwnd(), WM_COMMAND, MAKEWPARAM(kIdTab + int{kExitPanel}, kLabelClick),
                  reinterpret_cast<LPARAM>(exitTab));
     return 0;
 }

@@ -8,22 +8,17 @@
 #include <string>
 #include <vector>
 
-#include "app/modGlobals.h"
-#include "platform/Clock.h"
+#include "index/LazyIndex.h"
 #include "platform/MemorySettingsStore.h"
 #include "support/Fakes.h"
+#include "support/RecordingHelp.h"
+#include "support/TestClock.h"
 #include "support/TempFolder.h"
 #include "ui/MessagePump.h"
 #include "ui/main/MatchesOpener.h"
 #include "ui/main/OptionsOpener.h"
 
 namespace quorin::test {
-
-class TestClock final : public Clock {
-  public:
-    double Now() const override { return now; }
-    double now = 45000.5;  // 2023-03-15 12:00:00
-};
 
 class FakeMatchesOpener final : public MatchesOpener {
   public:
@@ -76,6 +71,7 @@ class ProgramFixture : public ::testing::Test {
     LazyIndex index{IndexServices{settings, clock, prompter, events, program.Path()}};
     FakeMatchesOpener matches;
     FakeOptionsOpener options;
+    RecordingHelp help;
     int unloads = 0;
 };
 

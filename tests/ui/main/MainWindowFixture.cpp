@@ -1,6 +1,5 @@
 #include "ui/main/MainWindowFixture.h"
 
-#include "platform/Text.h"
 
 namespace quorin::test {
 
@@ -11,7 +10,7 @@ MainWindowTest::~MainWindowTest() {
 
 frmMain& MainWindowTest::Load() {
     form = std::make_unique<frmMain>(MainServices{settings, clock, prompter, shell, index, tray,
-                                                  matches, options, program.Path(),
+                                                  matches, options, help,
                                                   [this] { ++unloads; }});
     return *form;
 }
@@ -24,18 +23,12 @@ void MainWindowTest::ClickTab(int tab) {
     Command(kIdTab + tab);
 }
 
-std::string WindowText(HWND window) {
-    wchar_t text[512] = {};
-    GetWindowTextW(window, text, 512);
-    return Narrow(text);
-}
-
 std::string MainWindowTest::Text(int id) const {
     return WindowText(Control(id));
 }
 
 void MainWindowTest::SetWord(std::string_view word) {
-    SetWindowTextW(Control(kIdWord), Widen(word).c_str());
+    SetText(Control(kIdWord), word);
 }
 
 void MainWindowTest::Tray(UINT mouseMessage) {

@@ -7,6 +7,7 @@
 
 #include "ui/main/MainFakes.h"
 #include "ui/main/clsSysTray.h"
+#include "ui/WindowText.h"
 #include "ui/main/frmMain.h"
 
 namespace quorin::test {
@@ -37,7 +38,5 @@ class MainWindowTest : public ProgramFixture {
     }};
     std::unique_ptr<frmMain> form;
 };
-
-std::string WindowText(HWND window);
 
 }  // namespace quorin::test

@@ -6,6 +6,7 @@
 #include "platform/Path.h"
 #include "platform/Text.h"
 #include "ui/Dpi.h"
+#include "ui/FocusColors.h"
 #include "ui/main/MainWindowFixture.h"
 
 namespace quorin::test {
@@ -121,6 +122,9 @@ TEST_F(MainWindowTest, TabsShowTheirPanelsAndTheLinksDoTheirWork) {
     EXPECT_EQ(options.panels, (std::vector<int>{0, 1, 2}));
 
     ClickTab(3);
+    EXPECT_EQ(help.owner, Window());
+    Command(kIdHelp);
+    EXPECT_EQ(help.topics, (std::vector<int32_t>{kHelpUsingQuorin}));
     Command(kIdQuorinPage);
     Command(kIdVeltaroPage);
     ASSERT_EQ(shell.opened.size(), 2u);
@@ -213,7 +217,7 @@ TEST_F(MainWindowTest, ABuildDisablesTabsShowsProgressOnTopAndRefusesToExit) {
         }
         progressOnTop =
             PanelShown(kProgressPanel) && GetWindow(GetDlgItem(Window(), kIdPanel), GW_HWNDFIRST) ==
-                                              GetDlgItem(Window(), kIdPanel + kProgressPanel);
+                                              GetDlgItem(Window(), kIdPanel + int{kProgressPanel});
         Command(kIdMenuExit);
     };
     Build();

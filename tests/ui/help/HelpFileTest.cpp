@@ -1,8 +1,8 @@
-#include "app/HelpFile.h"
+#include "ui/help/HelpFile.h"
 
 #include <gtest/gtest.h>
 
-#include "app/Help.h"
+#include "ui/help/Help.h"
 #include "platform/Path.h"
 #include "platform/TextFile.h"
 #include "support/TempFolder.h"

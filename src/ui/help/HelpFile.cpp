@@ -1,4 +1,4 @@
-#include "app/HelpFile.h"
+#include "ui/help/HelpFile.h"
 
 #include <charconv>
 

@@ -1,4 +1,4 @@
-#include "app/Splash.h"
+#include "ui/splash/Splash.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,7 @@
-#include "app/Splash.h"
+#include "ui/splash/Splash.h"
 
-#include <string>
 
 #include "QuorinVersion.h"
-#include "platform/Text.h"
 #include "resource.h"
 #include "ui/Dpi.h"
 #include "ui/PaintDc.h"
@@ -44,18 +42,11 @@ void RegisterSplashClass() {
 UniqueFont CreateTextFont(int dpi, int pixelHeight, LONG weight) {
     LOGFONTW font = MessageFont(dpi);
     if (pixelHeight != 0) {
-        font.lfHeight = -MulDiv(pixelHeight, dpi, 96);
+        font.lfHeight = -ScaleForDpi(pixelHeight, dpi);
     }
     font.lfWeight = weight;
     font.lfQuality = CLEARTYPE_QUALITY;
     return UniqueFont(CreateFontIndirectW(&font));
-}
-
-HWND CreateChild(HWND parent, const wchar_t* className, const std::wstring& text, DWORD style,
-                 int id) {
-    return CreateWindowExW(0, className, text.c_str(), WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0,
-                           parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                           GetModuleHandleW(nullptr), nullptr);
 }
 
 }  // namespace
@@ -67,7 +58,7 @@ frmSplash::frmSplash() {
 void frmSplash::Show() {
     dpi_ = ScreenDpi();
     const DWORD style = WS_POPUP | WS_BORDER;
-    RECT frame{0, 0, MulDiv(kClientWidth, dpi_, 96), MulDiv(kClientHeight, dpi_, 96)};
+    RECT frame{0, 0, ScaleForDpi(kClientWidth, dpi_), ScaleForDpi(kClientHeight, dpi_)};
     AdjustWindowRectEx(&frame, style, FALSE, 0);
     RECT workArea{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &workArea, 0);
@@ -81,7 +72,7 @@ void frmSplash::Show() {
     layout.y = workArea.top + (workArea.bottom - workArea.top - layout.height) / 2;
     Create(kSplashClass, layout);
     ShowWindow(hwnd(), SW_SHOW);
-    SetFocus(cmdOK_);
+    SetFocus(cmdOK);
     UpdateWindow(hwnd());
 }
 
@@ -92,40 +83,34 @@ void frmSplash::Unload() {
 }
 
 LRESULT frmSplash::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-        case WM_CREATE:
-            Form_Load();
-            return 0;
-        case WM_PAINT:
-            Form_Paint();
-            return 0;
-        case WM_COMMAND:
-            if (LOWORD(wParam) == kSplashOkId && HIWORD(wParam) == BN_CLICKED) {
-                cmdOK_Click();
-            }
-            return 0;
-        case WM_DPICHANGED: {
-            dpi_ = HIWORD(wParam);
-            const auto* suggested = reinterpret_cast<const RECT*>(lParam);
-            SetWindowPos(hwnd(), nullptr, suggested->left, suggested->top,
-                         suggested->right - suggested->left, suggested->bottom - suggested->top,
-                         SWP_NOZORDER | SWP_NOACTIVATE);
-            LayOut();
-            return 0;
-        }
-        default:
-            return Window::HandleMessage(message, wParam, lParam);
+    if (message == WM_PAINT) {
+        Form_Paint();
+        return 0;
     }
+    return Window::HandleMessage(message, wParam, lParam);
 }
 
-void frmSplash::Form_Load() {
+bool frmSplash::OnCreate(const CREATESTRUCTW&) {
     dpi_ = WindowDpi(hwnd());
     picture_.reset(
         static_cast<HBITMAP>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDB_SPLASH),
                                         IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
-    lblVersion_ = CreateChild(hwnd(), L"STATIC", Widen("Version " QUORIN_VERSION_TEXT),
-                              SS_LEFT | SS_NOPREFIX, kSplashVersionId);
-    cmdOK_ = CreateChild(hwnd(), L"BUTTON", L"OK", WS_TABSTOP | BS_DEFPUSHBUTTON, kSplashOkId);
+    lblVersion = CreateControl(hwnd(), L"STATIC", "Version " QUORIN_VERSION_TEXT,
+                                SS_LEFT | SS_NOPREFIX, kSplashVersionId);
+    cmdOK = CreateControl(hwnd(), L"BUTTON", "OK", WS_TABSTOP | BS_DEFPUSHBUTTON, kSplashOkId);
+    LayOut();
+    return true;
+}
+
+void frmSplash::OnCommand(int id, int code, HWND) {
+    if (id == kSplashOkId && code == BN_CLICKED) {
+        cmdOK_Click();
+    }
+}
+
+void frmSplash::OnDpiChanged(int dpi, const RECT& suggested) {
+    dpi_ = dpi;
+    Window::OnDpiChanged(dpi, suggested);
     LayOut();
 }
 
@@ -134,16 +119,16 @@ void frmSplash::LayOut() {
     taglineFont_ = CreateTextFont(dpi_, kTaglineHeight, FW_NORMAL);
     // The controls let go of the old font before it is deleted.
     UniqueFont controlFont = CreateTextFont(dpi_, 0, FW_NORMAL);
-    for (HWND control : {lblVersion_, cmdOK_}) {
+    for (HWND control : {lblVersion, cmdOK}) {
         SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(controlFont.get()), TRUE);
     }
     controlFont_ = std::move(controlFont);
-    const auto scale = [this](int pixels) { return MulDiv(pixels, dpi_, 96); };
+    const auto scale = [this](int pixels) { return ScaleForDpi(pixels, dpi_); };
     const int bandHeight = kClientHeight - kPictureHeight;
-    MoveWindow(lblVersion_, scale(kBandMargin),
+    MoveWindow(lblVersion, scale(kBandMargin),
                scale(kPictureHeight + (bandHeight - kCaptionHeight) / 2), scale(200),
                scale(kCaptionHeight), TRUE);
-    MoveWindow(cmdOK_, scale(kClientWidth - kBandMargin - kButtonWidth),
+    MoveWindow(cmdOK, scale(kClientWidth - kBandMargin - kButtonWidth),
                scale(kPictureHeight + (bandHeight - kButtonHeight) / 2), scale(kButtonWidth),
                scale(kButtonHeight), TRUE);
     InvalidateRect(hwnd(), nullptr, TRUE);
@@ -152,7 +137,7 @@ void frmSplash::LayOut() {
 void frmSplash::Form_Paint() {
     const PaintDc paint(hwnd());
     const HDC dc = paint.get();
-    const auto scale = [this](int pixels) { return MulDiv(pixels, dpi_, 96); };
+    const auto scale = [this](int pixels) { return ScaleForDpi(pixels, dpi_); };
     RECT client{};
     GetClientRect(hwnd(), &client);
     const RECT picture{0, 0, client.right, scale(kPictureHeight)};

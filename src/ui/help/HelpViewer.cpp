@@ -1,4 +1,4 @@
-#include "app/HelpViewer.h"
+#include "ui/help/HelpViewer.h"
 
 #include <richedit.h>
 
@@ -126,27 +126,14 @@ void HelpViewer::Close() {
 
 LRESULT HelpViewer::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_CREATE:
-            Form_Load();
-            return 0;
-        case WM_SIZE:
-            Form_Resize();
-            return 0;
         case WM_SETFOCUS:
-            SetFocus(txtTopic_);
+            SetFocus(txtTopic);
             return 0;
         case WM_GETMINMAXINFO: {
             auto* limits = reinterpret_cast<MINMAXINFO*>(lParam);
             const int dpi = WindowDpi(hwnd());
-            limits->ptMinTrackSize = {MulDiv(kMinimumWidth, dpi, 96),
-                                      MulDiv(kMinimumHeight, dpi, 96)};
-            return 0;
-        }
-        case WM_DPICHANGED: {
-            const auto* suggested = reinterpret_cast<const RECT*>(lParam);
-            SetWindowPos(hwnd(), nullptr, suggested->left, suggested->top,
-                         suggested->right - suggested->left, suggested->bottom - suggested->top,
-                         SWP_NOZORDER | SWP_NOACTIVATE);
+            limits->ptMinTrackSize = {ScaleForDpi(kMinimumWidth, dpi),
+                                      ScaleForDpi(kMinimumHeight, dpi)};
             return 0;
         }
         default:
@@ -154,29 +141,22 @@ LRESULT HelpViewer::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
-void HelpViewer::Form_Load() {
-    txtTopic_ = CreateWindowExW(
-        0, MSFTEDIT_CLASS, L"",
-        WS_CHILD | WS_VISIBLE | WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL, 0, 0, 0,
-        0, hwnd(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(kTextId)),
-        GetModuleHandleW(nullptr), nullptr);
-    if (txtTopic_ == nullptr) {
-        throw Error("The help window cannot show text: its rich edit box could not be created.");
-    }
-    SendMessageW(txtTopic_, EM_SETBKGNDCOLOR, TRUE, 0);  // the system's window colour
+bool HelpViewer::OnCreate(const CREATESTRUCTW&) {
+    txtTopic = CreateControl(hwnd(), MSFTEDIT_CLASS, "",
+                              WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL, kTextId);
+    SendMessageW(txtTopic, EM_SETBKGNDCOLOR, TRUE, 0);  // the system's window colour
+    return true;
 }
 
-void HelpViewer::Form_Resize() {
-    RECT client{};
-    GetClientRect(hwnd(), &client);
-    MoveWindow(txtTopic_, 0, 0, client.right, client.bottom, TRUE);
+void HelpViewer::OnSize(UINT, int width, int height) {
+    MoveWindow(txtTopic, 0, 0, width, height, TRUE);
     // Inset the text rather than the box, so that the scroll bar stays at the window's edge.
-    const int margin = MulDiv(kMarginPixels, WindowDpi(hwnd()), 96);
+    const int margin = ScaleForDpi(kMarginPixels, WindowDpi(hwnd()));
     RECT text{};
-    GetClientRect(txtTopic_, &text);
+    GetClientRect(txtTopic, &text);
     InflateRect(&text, -margin, -margin);
-    SendMessageW(txtTopic_, EM_SETRECT, 0, reinterpret_cast<LPARAM>(&text));
-    InvalidateRect(txtTopic_, nullptr, TRUE);
+    SendMessageW(txtTopic, EM_SETRECT, 0, reinterpret_cast<LPARAM>(&text));
+    InvalidateRect(txtTopic, nullptr, TRUE);
 }
 
 void HelpViewer::SetTopicText(const HelpTopic& topic) {
@@ -194,30 +174,30 @@ void HelpViewer::SetTopicText(const HelpTopic& topic) {
         ranges.push_back({start, static_cast<LONG>(text.size()), block.kind});
     }
     SETTEXTEX mode{ST_DEFAULT, 1200};  // 1200: the text is UTF-16
-    SendMessageW(txtTopic_, EM_SETTEXTEX, reinterpret_cast<WPARAM>(&mode),
+    SendMessageW(txtTopic, EM_SETTEXTEX, reinterpret_cast<WPARAM>(&mode),
                  reinterpret_cast<LPARAM>(text.c_str()));
 
-    Select(txtTopic_, 0, -1);
-    SetCharFormat(txtTopic_, kBodyHeight, false);
-    Select(txtTopic_, 0, static_cast<LONG>(title.size()));
-    SetCharFormat(txtTopic_, kTitleHeight, true);
-    SetParaFormat(txtTopic_, ParagraphFormat(0, 160));
+    Select(txtTopic, 0, -1);
+    SetCharFormat(txtTopic, kBodyHeight, false);
+    Select(txtTopic, 0, static_cast<LONG>(title.size()));
+    SetCharFormat(txtTopic, kTitleHeight, true);
+    SetParaFormat(txtTopic, ParagraphFormat(0, 160));
     for (size_t i = 0; i < ranges.size(); ++i) {
         const TextRange& range = ranges[i];
-        Select(txtTopic_, range.start, range.end);
+        Select(txtTopic, range.start, range.end);
         if (range.kind == HelpBlockKind::Heading) {
-            SetParaFormat(txtTopic_, ParagraphFormat(160, 40));
-            SetCharFormat(txtTopic_, kHeadingHeight, true);
+            SetParaFormat(txtTopic, ParagraphFormat(160, 40));
+            SetCharFormat(txtTopic, kHeadingHeight, true);
         } else if (range.kind == HelpBlockKind::Bullet) {
             // The last item of a list is followed by a paragraph's space.
             const bool last = i + 1 < ranges.size() && ranges[i + 1].kind != HelpBlockKind::Bullet;
-            SetParaFormat(txtTopic_, BulletFormat(last ? 100 : 60));
+            SetParaFormat(txtTopic, BulletFormat(last ? 100 : 60));
         } else {
-            SetParaFormat(txtTopic_, ParagraphFormat(0, 100));
+            SetParaFormat(txtTopic, ParagraphFormat(0, 100));
         }
     }
-    Select(txtTopic_, 0, 0);
-    SendMessageW(txtTopic_, WM_VSCROLL, SB_TOP, 0);
+    Select(txtTopic, 0, 0);
+    SendMessageW(txtTopic, WM_VSCROLL, SB_TOP, 0);
 }
 
 }  // namespace quorin

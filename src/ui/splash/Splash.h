@@ -25,9 +25,11 @@ class frmSplash final : public Window {
 
   protected:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    bool OnCreate(const CREATESTRUCTW& create) override;
+    void OnCommand(int id, int code, HWND control) override;
+    void OnDpiChanged(int dpi, const RECT& suggested) override;
 
   private:
-    void Form_Load();
     void Form_Paint();
     void LayOut();
     void cmdOK_Click();
@@ -37,8 +39,8 @@ class frmSplash final : public Window {
     UniqueFont nameFont_;
     UniqueFont taglineFont_;
     UniqueFont controlFont_;
-    HWND lblVersion_ = nullptr;
-    HWND cmdOK_ = nullptr;
+    HWND lblVersion = nullptr;
+    HWND cmdOK = nullptr;
 };
 
 }  // namespace quorin

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "app/HelpFile.h"
+#include "ui/help/HelpFile.h"
 #include "platform/WinHandles.h"
 #include "ui/Window.h"
 
@@ -24,14 +24,13 @@ class HelpViewer final : public Window {
 
   protected:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    bool OnCreate(const CREATESTRUCTW& create) override;
+    void OnSize(UINT sizeType, int width, int height) override;
 
   private:
-    void Form_Load();
-    void Form_Resize();
     void SetTopicText(const HelpTopic& topic);
-    void UpdateFonts();
 
-    HWND txtTopic_ = nullptr;
+    HWND txtTopic = nullptr;
 };
 
 }  // namespace quorin

@@ -4,11 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include "app/Help.h"
-#include "app/HelpViewer.h"
+#include "ui/help/HelpViewer.h"
+#include "ui/help/ProgramHelp.h"
 #include "platform/Path.h"
-#include "platform/Text.h"
 #include "support/TempFolder.h"
+#include "ui/WindowText.h"
 
 namespace quorin {
 namespace {
@@ -22,11 +22,7 @@ HWND TextBox(HWND viewer) {
 }
 
 std::string ShownText(HWND viewer) {
-    const HWND box = TextBox(viewer);
-    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(box)) + 1, L'\0');
-    text.resize(
-        static_cast<size_t>(GetWindowTextW(box, text.data(), static_cast<int>(text.size()))));
-    return Narrow(text);
+    return WindowText(TextBox(viewer));
 }
 
 bool IsBold(HWND box, LONG start, LONG end) {
@@ -44,16 +40,17 @@ class HelpViewerTest : public ::testing::Test {
         folder_.WriteFile("qn.HLP",
                           "@topic 10 Using Quorin\nType a word.\n@topic 20 Setting up\n"
                           "Choose the drives.\n");
-        HelpSetup(nullptr, folder_.Path());
+        help_.Setup(nullptr);
     }
-    void TearDown() override { CloseHelp(); }
+    void TearDown() override { help_.Close(); }
 
     TempFolder folder_;
+    ProgramHelp help_{folder_.Path()};
 };
 
 TEST_F(HelpViewerTest, OpensTheTopicWhereThePositionRecordSays) {
-    EXPECT_EQ(HelpFile(), JoinPath(folder_.Path(), "qn.HLP"));
-    ShowHelpTopic(kHelpUsingQuorin);
+    EXPECT_EQ(help_.File(), JoinPath(folder_.Path(), "qn.HLP"));
+    help_.ShowTopic(kHelpUsingQuorin);
     const HWND viewer = Viewer();
     ASSERT_NE(viewer, nullptr);
     EXPECT_TRUE(IsWindowVisible(viewer));
@@ -77,10 +74,10 @@ TEST_F(HelpViewerTest, OpensTheTopicWhereThePositionRecordSays) {
 }
 
 TEST_F(HelpViewerTest, ReusesTheOpenWindowForTheNextTopic) {
-    ShowHelpTopic(kHelpUsingQuorin);
+    help_.ShowTopic(kHelpUsingQuorin);
     const HWND viewer = Viewer();
     SetWindowPos(viewer, nullptr, 10, 20, 400, 300, SWP_NOZORDER);
-    ShowHelpTopic(kHelpSettingUp);
+    help_.ShowTopic(kHelpSettingUp);
 
     EXPECT_EQ(Viewer(), viewer);
     const std::string text = ShownText(viewer);
@@ -92,28 +89,30 @@ TEST_F(HelpViewerTest, ReusesTheOpenWindowForTheNextTopic) {
 }
 
 TEST_F(HelpViewerTest, CloseHelpDestroysTheWindowAndHelpOpensAgainAfterwards) {
-    ShowHelpTopic(kHelpUsingQuorin);
+    help_.ShowTopic(kHelpUsingQuorin);
     const HWND viewer = Viewer();
-    CloseHelp();
+    help_.Close();
     EXPECT_FALSE(IsWindow(viewer));
-    CloseHelp();  // nothing open: nothing happens
+    help_.Close();  // nothing open: nothing happens
 
-    ShowHelpTopic(kHelpUsingQuorin);
+    help_.ShowTopic(kHelpUsingQuorin);
     const HWND reopened = Viewer();
     ASSERT_NE(reopened, nullptr);
     SendMessageW(reopened, WM_CLOSE, 0, 0);  // the user closes it
     EXPECT_FALSE(IsWindow(reopened));
-    ShowHelpTopic(kHelpSettingUp);
+    help_.ShowTopic(kHelpSettingUp);
     ASSERT_NE(Viewer(), nullptr);
     EXPECT_TRUE(IsWindowVisible(Viewer()));
 }
 
 TEST_F(HelpViewerTest, ShowsAMissingTopicOrFileInTheWindow) {
-    ShowHelpTopic(55);
+    help_.ShowTopic(55);
     EXPECT_NE(ShownText(Viewer()).find("no topic number 55"), std::string::npos);
 
-    HelpSetup(nullptr, JoinPath(folder_.Path(), "elsewhere"));
-    ShowHelpTopic(kHelpUsingQuorin);
+    help_.Close();
+    ProgramHelp elsewhere(JoinPath(folder_.Path(), "elsewhere"));
+    elsewhere.Setup(nullptr);
+    elsewhere.ShowTopic(kHelpUsingQuorin);
     const std::string text = ShownText(Viewer());
     EXPECT_EQ(text.rfind("Help is not available", 0), 0u) << text;
     EXPECT_NE(text.find("could not be read"), std::string::npos) << text;

@@ -3,8 +3,6 @@
 #include <windows.h>
 
 #include <cstdint>
-#include <string>
-#include <string_view>
 
 namespace quorin {
 
@@ -31,19 +29,18 @@ struct HelpWindowPosition {
 #pragma pack(pop)
 static_assert(sizeof(HelpWindowPosition) == 26);
 
-// Remembers the owner and the help file of the program folder (the running program's own
-// folder in the first form), and fills the help window position. Called when the main window
-// and the wizard load.
-void HelpSetup(HWND owner);
-void HelpSetup(HWND owner, std::string_view programFolder);
+// Help as the windows reach it, handed in with their other services.
+class Help {
+  public:
+    virtual ~Help() = default;
 
-// The help file HelpSetup chose.
-const std::string& HelpFile();
-
-// Opens the help window at the topic, or brings the open one forward with that topic.
-void ShowHelpTopic(int32_t context);
-
-// Closes the help window if it is open. Called when the main window and the wizard unload.
-void CloseHelp();
+    // Remembers the window on whose behalf help is opened and fills the help window position.
+    // Called when the main window and the wizard load.
+    virtual void Setup(HWND owner) = 0;
+    // Opens the help window at the topic, or brings the open one forward with that topic.
+    virtual void ShowTopic(int32_t context) = 0;
+    // Closes the help window if it is open. Called when the main window and the wizard unload.
+    virtual void Close() = 0;
+};
 
 }  // namespace quorin

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <windows.h>
+
+#include "platform/WinHandles.h"
+#include "ui/Window.h"
+
+namespace quorin {
+
+// Base of the program's dialogs, each laid out by a DIALOGEX template of quorin.rc.
+//
+// The dialog manager gives them what a Windows user expects of a dialog: Tab and Shift+Tab,
+// the arrow keys within a group, access keys, Enter for the default button and Escape for
+// Cancel; both modal and modeless dialogs get their keys through the program's one message
+// pump. The controls take the system's message font at the dialog's DPI, and the focus starts
+// on the first control that takes it.
+class Dialog : public Window {
+  public:
+    // Shows the dialog over `owner`, which stays disabled until it closes and is then enabled
+    // and activated again. Returns the result given to EndDialog (IDOK, IDCANCEL).
+    INT_PTR ShowModal(HWND owner);
+    // Creates the dialog over `owner` and shows it; the call returns at once.
+    void ShowModeless(HWND owner);
+    bool IsModal() const { return modal_; }
+
+    // Keys a dialog handles before the dialog manager (Ctrl+Tab between pages). True when the
+    // message was taken. For the message pump; any active window may be passed.
+    static bool TranslateKeys(HWND active, const MSG& message);
+
+  protected:
+    explicit Dialog(int templateId) : templateId_(templateId) {}
+
+    HWND Item(int id) const { return GetDlgItem(hwnd(), id); }
+
+    // WM_INITDIALOG, after the font is set.
+    virtual void OnInit() {}
+    // The OK button or Enter, and the Cancel button, Escape or the close box. Both close the
+    // dialog unless overridden.
+    virtual void OnOk() { EndDialog(IDOK); }
+    virtual void OnCancel() { EndDialog(IDCANCEL); }
+    virtual bool OnKey(const MSG&) { return false; }
+    // Closes the dialog with a result: ends the modal loop, or destroys a modeless dialog.
+    void EndDialog(INT_PTR result);
+
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT DefaultMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void OnClose() override { OnCancel(); }
+
+  private:
+    static INT_PTR CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+    static Dialog* FromDialog(HWND hwnd);
+
+    void Make(HWND owner);
+    void ApplyFont(int dpi);
+
+    int templateId_;
+    bool modal_ = false;
+    bool ended_ = false;
+    bool handled_ = false;
+    INT_PTR result_ = IDCANCEL;
+    UniqueFont font_;
+};
+
+}  // namespace quorin
