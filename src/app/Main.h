@@ -10,10 +10,10 @@
 #include "platform/Prompter.h"
 #include "platform/SettingsStore.h"
 #include "platform/Shell.h"
+#include "ui/help/Help.h"
 #include "ui/main/MatchesOpener.h"
 #include "ui/main/OptionsOpener.h"
 #include "ui/main/clsSysTray.h"
-#include "ui/help/Help.h"
 #include "ui/main/frmMain.h"
 
 namespace quorin {

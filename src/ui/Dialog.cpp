@@ -34,8 +34,9 @@ void Dialog::ShowModeless(HWND owner) {
 }
 
 void Dialog::Make(HWND owner) {
-    const HWND dialog = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId_),
-                                           owner, &Dialog::Procedure, reinterpret_cast<LPARAM>(this));
+    const HWND dialog =
+        CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId_), owner,
+                           &Dialog::Procedure, reinterpret_cast<LPARAM>(this));
     if (dialog == nullptr) {
         throw Error("A dialog could not be created: " + LastOsErrorText() + ".");
     }
@@ -61,8 +62,8 @@ bool Dialog::TranslateKeys(HWND active, const MSG& message) {
 
 // Only a dialog made here has this procedure, so only then is its user data a Dialog.
 Dialog* Dialog::FromDialog(HWND hwnd) {
-    if (hwnd == nullptr || GetWindowLongPtrW(hwnd, DWLP_DLGPROC) !=
-                               reinterpret_cast<LONG_PTR>(&Dialog::Procedure)) {
+    if (hwnd == nullptr ||
+        GetWindowLongPtrW(hwnd, DWLP_DLGPROC) != reinterpret_cast<LONG_PTR>(&Dialog::Procedure)) {
         return nullptr;
     }
     return static_cast<Dialog*>(FromHandle(hwnd));
@@ -100,16 +101,7 @@ LRESULT Dialog::DefaultMessage(UINT, WPARAM, LPARAM) {
 }
 
 void Dialog::ApplyFont(int dpi) {
-    const LOGFONTW messageFont = MessageFont(dpi);
-    UniqueFont font(CreateFontIndirectW(&messageFont));
-    EnumChildWindows(
-        hwnd(),
-        [](HWND child, LPARAM newFont) {
-            SendMessageW(child, WM_SETFONT, static_cast<WPARAM>(newFont), TRUE);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(font.get()));
-    font_ = std::move(font);  // the controls let go of the old font first
+    font_ = SetMessageFont(hwnd(), dpi);  // the controls let go of the old font first
 }
 
 INT_PTR CALLBACK Dialog::Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -62,4 +62,17 @@ LOGFONTW MessageFont(int dpi) {
     return font;
 }
 
+UniqueFont SetMessageFont(HWND window, int dpi) {
+    const LOGFONTW messageFont = MessageFont(dpi);
+    UniqueFont font(CreateFontIndirectW(&messageFont));
+    EnumChildWindows(
+        window,
+        [](HWND child, LPARAM newFont) {
+            SendMessageW(child, WM_SETFONT, static_cast<WPARAM>(newFont), TRUE);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(font.get()));
+    return font;
+}
+
 }  // namespace quorin

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "platform/WinHandles.h"
+
 namespace quorin {
 
 // The program keeps positions and sizes in twips and converts them at the window's DPI.
@@ -25,5 +27,9 @@ int WindowDpi(HWND window);
 
 // The system's message font (the usual font of dialogs and controls) sized for a DPI.
 LOGFONTW MessageFont(int dpi);
+
+// Gives every child of the window the message font at the DPI. The caller keeps the font for
+// as long as the controls use it.
+UniqueFont SetMessageFont(HWND window, int dpi);
 
 }  // namespace quorin

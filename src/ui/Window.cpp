@@ -53,14 +53,13 @@ void Window::Create(const wchar_t* className, const WindowSpec& layout) {
 
 HWND Window::CreateHandle(const wchar_t* className, const WindowSpec& layout, void* param) {
     const std::wstring title = Widen(layout.title);
-    const HWND window = CreateWindowExW(layout.exStyle, className, title.c_str(), layout.style,
-                                        layout.x, layout.y, layout.width, layout.height,
-                                        layout.parent,
-                                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(layout.id)),
-                                        GetModuleHandleW(nullptr), param);
+    const HWND window = CreateWindowExW(
+        layout.exStyle, className, title.c_str(), layout.style, layout.x, layout.y, layout.width,
+        layout.height, layout.parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(layout.id)),
+        GetModuleHandleW(nullptr), param);
     if (window == nullptr) {
         const std::string what =
-            !layout.title.empty()      ? "The window \"" + std::string(layout.title) + "\""
+            !layout.title.empty()       ? "The window \"" + std::string(layout.title) + "\""
             : IS_INTRESOURCE(className) ? std::string("A control")
                                         : "A control of the class \"" + Narrow(className) + "\"";
         throw Error(what + " could not be created: " + LastOsErrorText() + ".");

@@ -8,8 +8,10 @@ namespace quorin {
 
 // Context numbers of the help topics in "qn.HLP".
 enum ContextIDs : int32_t {
-    kHelpUsingQuorin = 10,     // the main window's help link
-    kHelpSettingUp = 20,       // the first-run wizard's "more" link
+    kHelpUsingQuorin = 10,  // the main window's help link
+    kHelpSettingUp = 20,    // the first-run wizard's "more" link
+    kHelpAboutQuorin = 30,  // the help panel's two other links
+    kHelpAboutVeltaro = 40,
     kHelpGeneralOptions = 80,  // the Options dialog, by page
     kHelpFileTypeOptions = 90,
     kHelpWordOptions = 100,

@@ -143,7 +143,7 @@ LRESULT HelpViewer::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 
 bool HelpViewer::OnCreate(const CREATESTRUCTW&) {
     txtTopic = CreateControl(hwnd(), MSFTEDIT_CLASS, "",
-                              WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL, kTextId);
+                             WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL, kTextId);
     SendMessageW(txtTopic, EM_SETBKGNDCOLOR, TRUE, 0);  // the system's window colour
     return true;
 }

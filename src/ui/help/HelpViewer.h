@@ -2,9 +2,9 @@
 
 #include <windows.h>
 
-#include "ui/help/HelpFile.h"
 #include "platform/WinHandles.h"
 #include "ui/Window.h"
+#include "ui/help/HelpFile.h"
 
 namespace quorin {
 

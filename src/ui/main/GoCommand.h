@@ -14,14 +14,14 @@ class SearchProgress;
 // What Go does with the typed word, decided without a window.
 struct GoAction {
     enum class Kind {
-        None,         // an empty box, or no assigned word and no match
-        OpenAssigned, // the user's own word: its file opens and the window hides
-        OpenMatch,    // exactly one match: it opens and the window stays
-        ChooseMatch,  // several matches go to the Matches window
+        None,          // an empty box, or no assigned word and no match
+        OpenAssigned,  // the user's own word: its file opens and the window hides
+        OpenMatch,     // exactly one match: it opens and the window stays
+        ChooseMatch,   // several matches go to the Matches window
     };
     Kind kind = Kind::None;
-    std::string file;           // the full path to open
-    std::string workingFolder;  // the folder the file opens in
+    std::string file;                  // the full path to open
+    std::string workingFolder;         // the folder the file opens in
     std::optional<MatchList> matches;  // ChooseMatch only
 };
 

@@ -24,7 +24,6 @@ class WordCompletion {
     void KeyDown(int keyCode);
     std::optional<CompletionEdit> Change(std::string_view text, int caret,
                                          const EntryFinder& findEntry);
-    bool SkipPending() const { return bSkipComplete_; }
 
   private:
     bool bSkipComplete_ = false;

@@ -14,6 +14,7 @@
 #include "ui/WindowClass.h"
 #include "ui/WindowText.h"
 #include "ui/main/GoCommand.h"
+#include "ui/main/MainDesign.h"
 #include "ui/main/MainLayout.h"
 #include "ui/main/ReindexSchedule.h"
 #include "ui/main/TrayCallback.h"
@@ -23,37 +24,15 @@ namespace quorin {
 namespace {
 
 constexpr DWORD kMainStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
-constexpr wchar_t kPanelClass[] = L"QuorinPanel";
-constexpr UINT_PTR kWordEditSubclass = 1;
-// A key pressed in the word box, passed on to the main window (wParam: the key code).
-constexpr UINT kWordKeyDown = WM_APP;
 constexpr std::string_view kTip = "Quorin";
 constexpr std::string_view kIndexingTip = "Quorin (indexing...)";
 constexpr std::string_view kCannotExitText =
     "You cannot exit the program while it is indexing. Cancel the indexing then exit the "
     "program.";
 
-// Panels only hold controls: what their children tell them goes to the main window.
-LRESULT CALLBACK PanelProcedure(HWND panel, UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-        case WM_COMMAND:
-        case WM_NOTIFY:
-        case WM_CTLCOLOREDIT:
-        case WM_CTLCOLORSTATIC:
-        case WM_CTLCOLORLISTBOX:
-        case WM_CTLCOLORBTN:
-            return SendMessageW(GetParent(panel), message, wParam, lParam);
-        default:
-            return DefWindowProcW(panel, message, wParam, lParam);
-    }
-}
-
 void RegisterClasses() {
     static const ATOM mainAtom = RegisterWindowClass({.name = kMainWindowClass});
-    static const ATOM panelAtom =
-        RegisterWindowClass({.name = kPanelClass, .procedure = &PanelProcedure});
     static_cast<void>(mainAtom);
-    static_cast<void>(panelAtom);
     ctlTabLabel::Register();
     ctlLinkLabel::Register();
 }
@@ -61,26 +40,6 @@ void RegisterClasses() {
 int ReadTwips(const SettingsStore& settings, std::string_view key, int defaultValue) {
     return ParseWholeNumber(settings.Get("Main", key, std::to_string(defaultValue)))
         .value_or(defaultValue);
-}
-
-// Backspace, Delete and Enter of the word box's edit field reach the main window from here.
-LRESULT CALLBACK WordEditProcedure(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                   DWORD_PTR data) {
-    HWND form = reinterpret_cast<HWND>(data);
-    if (message == WM_KEYDOWN) {
-        SendMessageW(form, kWordKeyDown, wParam, 0);
-        if (wParam == VK_RETURN) {
-            SendMessageW(form, WM_COMMAND, MAKEWPARAM(kIdGo, BN_CLICKED), 0);
-            return 0;
-        }
-    }
-    if (message == WM_CHAR && wParam == L'\r') {
-        return 0;  // already pressed Go; no beep
-    }
-    if (message == WM_NCDESTROY) {
-        RemoveWindowSubclass(edit, &WordEditProcedure, kWordEditSubclass);
-    }
-    return DefSubclassProc(edit, message, wParam, lParam);
 }
 
 }  // namespace
@@ -129,174 +88,50 @@ HICON frmMain::Icon(int resourceId) const {
 }
 
 void frmMain::CreateControls() {
+    picPanel.Create(hwnd(), kPanelCount, kIdPanel);
     static constexpr std::array<std::string_view, kTabCount> kCaptions = {"Go", "Index", "Options",
                                                                           "Help", "Exit"};
-    for (int i = 0; i < kTabCount; ++i) {
-        tabLabel[i] = &ctlTabLabel::Create(hwnd(), kIdTab + i, kCaptions[i], 0, 0);
-    }
-    CreatePanels();
-    mnuSystray.reset(CreatePopupMenu());
-    AppendMenuW(mnuSystray.get(), MF_STRING, kIdMenuGo, L"Go");
-    AppendMenuW(mnuSystray.get(), MF_SEPARATOR, 0, nullptr);
-    AppendMenuW(mnuSystray.get(), MF_STRING, kIdMenuExit, L"E&xit Quorin");
+    tabLabel.Create(hwnd(), kIdTab, kCaptions);
+    CreatePanelControls();
 }
 
-void frmMain::CreatePanels() {
-    for (int i = 0; i < kPanelCount; ++i) {
-        const DWORD shown = i == kGoPanel ? WS_VISIBLE : 0;
-        picPanel[i] = CreateHandle(kPanelClass,
-                                   {.title = "",
-                                    .style = WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | shown,
-                                    .exStyle = WS_EX_CONTROLPARENT,
-                                    .parent = hwnd(),
-                                    .id = kIdPanel + i},
-                                   nullptr);
+// The panels' contents, as the design places them.
+void frmMain::CreatePanelControls() {
+    cboWord.Attach(picPanel.AddControl(kGoPanel, WC_COMBOBOXW, "",
+                                       CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL | WS_TABSTOP,
+                                       kIdWord, {1080, 105, 3000, 1800}),
+                   hwnd());
+    for (const MainDesign::Control& control : MainDesign::Controls()) {
+        this->*control.member = picPanel.AddControl(control.panel, control.className, control.text,
+                                                    control.style, control.id, control.twips);
     }
-    struct ControlSpec {
-        HWND frmMain::*member;
-        int panel;
-        const wchar_t* className;
-        std::string_view text;
-        DWORD style;
-        int id;
-        RECT twips;
-    };
-    static const ControlSpec kControls[] = {
-        {&frmMain::lblEnterWord, kGoPanel, WC_STATICW, "Enter word:", 0, -1, {120, 165, 960, 225}},
-        {&frmMain::cboWord, kGoPanel, WC_COMBOBOXW, "",
-         CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL | WS_TABSTOP, kIdWord, {1080, 105, 3000, 1800}},
-        {&frmMain::cmdGo, kGoPanel, WC_BUTTONW, "Go", BS_DEFPUSHBUTTON | WS_TABSTOP, kIdGo,
-         {4200, 90, 900, 375}},
-        {&frmMain::lblFile, kGoPanel, WC_STATICW, "", SS_LEFTNOWORDWRAP | SS_NOPREFIX, kIdFile,
-         {1080, 540, 4020, 225}},
-        {&frmMain::ProgressBar1, kGoPanel, PROGRESS_CLASSW, "", 0, kIdSearchProgress,
-         {1080, 570, 3000, 165}},
-        {&frmMain::lblIndexLastUpdated, kIndexPanel, WC_STATICW, "Index last updated:", 0, -1,
-         {120, 90, 1680, 225}},
-        {&frmMain::lblLastUpdated, kIndexPanel, WC_STATICW, "", SS_NOPREFIX, kIdLastUpdated,
-         {1800, 90, 3400, 225}},
-        {&frmMain::lblUpdateInterval, kIndexPanel, WC_STATICW,
-         "Index automatically updated every 1 day(s).", 0, kIdUpdateInterval,
-         {120, 345, 5000, 225}},
-        {&frmMain::lblShutdown, kExitPanel, WC_STATICW, "Please wait while Quorin shuts down...",
-         SS_CENTER, -1, {0, 330, 5280, 225}},
-        {&frmMain::Animation1, kProgressPanel, ANIMATE_CLASSW, "",
-         ACS_CENTER | ACS_TRANSPARENT | ACS_AUTOPLAY, kIdAnimation, {0, 0, 1440, 900}},
-        {&frmMain::lblPleaseWait, kProgressPanel, WC_STATICW,
-         "Please wait while Quorin indexes your hard drive. Depending on how much stuff you "
-         "have, this may take a few minutes...",
-         0, -1, {1500, 30, 3780, 600}},
-        {&frmMain::lblFolders, kProgressPanel, WC_STATICW, "# of folders indexed:", SS_NOPREFIX, -1,
-         {1500, 660, 1650, 225}},
-        {&frmMain::lblCounter, kProgressPanel, WC_STATICW, "", 0, kIdCounter,
-         {3150, 660, 1200, 225}},
-    };
-    struct LinkSpec {
-        ctlLinkLabel* frmMain::*member;
-        int panel;
-        int id;
-        std::string_view caption;
-        int left;
-        int top;
-    };
-    static const LinkSpec kLinks[] = {
-        {&frmMain::lnkUpdate, kIndexPanel, kIdUpdate, "Update Index Now", 120, 600},
-        {&frmMain::lnkGeneralOptions, kOptionsPanel, kIdGeneralOptions, "General Options", 120,
-         90},
-        {&frmMain::lnkFileTypes, kOptionsPanel, kIdFileTypes,
-         "Change file types that are indexed", 120, 345},
-        {&frmMain::lnkWords, kOptionsPanel, kIdWords, "Add/delete assigned words", 120, 600},
-        {&frmMain::lnkHelp, kHelpPanel, kIdHelp, "Click here for help", 120, 90},
-        {&frmMain::lnkQuorin, kHelpPanel, kIdQuorinPage, "Quorin", 120, 345},
-        {&frmMain::lnkVeltaro, kHelpPanel, kIdVeltaroPage, "Veltaro, Inc.", 120, 600},
-        {&frmMain::lnkCancel, kProgressPanel, kIdCancel, "Cancel", 4560, 660},
-    };
-    for (const ControlSpec& control : kControls) {
-        this->*control.member = AddControl(control.panel, control.className, control.text,
-                                           control.style, control.id, control.twips);
-    }
-    for (const LinkSpec& link : kLinks) {
-        this->*link.member = AddLink(link.panel, link.id, link.caption, link.left, link.top);
+    for (const MainDesign::Link& link : MainDesign::Links()) {
+        this->*link.member =
+            picPanel.AddLink(link.panel, link.id, link.caption, link.left, link.top);
     }
     ShowWindow(ProgressBar1, SW_HIDE);
-    SubclassWordEdit();
-}
-
-void frmMain::SubclassWordEdit() {
-    COMBOBOXINFO info{};
-    info.cbSize = sizeof(info);
-    GetComboBoxInfo(cboWord, &info);
-    SetWindowSubclass(info.hwndItem, &WordEditProcedure, kWordEditSubclass,
-                      reinterpret_cast<DWORD_PTR>(hwnd()));
-}
-
-HWND frmMain::AddControl(int panel, const wchar_t* className, std::string_view text, DWORD style,
-                         int id, RECT twips) {
-    const HWND control =
-        CreateControl(picPanel[panel], className, text, WS_CLIPSIBLINGS | style, id);
-    placements_.push_back({control, twips});
-    return control;
-}
-
-ctlLinkLabel* frmMain::AddLink(int panel, int id, std::string_view caption, int left, int top) {
-    ctlLinkLabel& link = ctlLinkLabel::Create(picPanel[panel], id, caption, 0, 0);
-    placements_.push_back({link.hwnd(), {left, top, 0, 0}});
-    return &link;
 }
 
 HWND frmMain::Control(int id) const {
     if (HWND control = GetDlgItem(hwnd(), id)) {
         return control;
     }
-    for (HWND panel : picPanel) {
-        if (HWND control = GetDlgItem(panel, id)) {
-            return control;
-        }
-    }
-    return nullptr;
+    return picPanel.Control(id);
 }
 
 // Everything the window shows is placed from twips at the window's DPI, so this runs again
 // when the DPI changes.
 void frmMain::LayOut() {
     dpi_ = WindowDpi(hwnd());
-    const LOGFONTW messageFont = MessageFont(dpi_);
-    font_.reset(CreateFontIndirectW(&messageFont));
-    EnumChildWindows(
-        hwnd(),
-        [](HWND child, LPARAM font) {
-            SendMessageW(child, WM_SETFONT, static_cast<WPARAM>(font), TRUE);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(font_.get()));
-    tabLabel[currentTab_]->SetSelected(true);
-
-    std::vector<int> tabWidths;
-    for (const ctlTabLabel* tab : tabLabel) {
-        RECT box{};
-        GetWindowRect(tab->hwnd(), &box);
-        tabWidths.push_back(box.right - box.left);
-    }
-    const MainLayout layout = ComputeMainLayout(dpi_, tabWidths);
+    font_ = SetMessageFont(hwnd(), dpi_);
+    tabLabel[currentTab_].SetSelected(true);
+    const MainLayout layout = ComputeMainLayout(dpi_, tabLabel.Widths());
     SetWindowPos(hwnd(), nullptr, 0, 0, layout.windowWidth, layout.windowHeight,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    for (int i = 0; i < kTabCount; ++i) {
-        SetWindowPos(tabLabel[i]->hwnd(), nullptr, layout.tabLefts[i], 0, 0, 0,
-                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    }
+    tabLabel.Place(layout.tabLefts, 0);
     RECT client{};
     GetClientRect(hwnd(), &client);
-    for (HWND panel : picPanel) {
-        SetWindowPos(panel, nullptr, 0, layout.panelTop, layout.panelWidth,
-                     client.bottom - layout.panelTop, SWP_NOZORDER | SWP_NOACTIVATE);
-    }
-    for (const Placement& placement : placements_) {
-        const RECT& twips = placement.twips;
-        const UINT keepSize = twips.right == 0 ? SWP_NOSIZE : 0;
-        SetWindowPos(placement.control, nullptr, TwipsToPixels(twips.left, dpi_),
-                     TwipsToPixels(twips.top, dpi_), TwipsToPixels(twips.right, dpi_),
-                     TwipsToPixels(twips.bottom, dpi_), keepSize | SWP_NOZORDER | SWP_NOACTIVATE);
-    }
+    picPanel.Place(layout.panelTop, layout.panelWidth, client.bottom - layout.panelTop, dpi_);
 }
 
 void frmMain::OnDpiChanged(int, const RECT& suggested) {
@@ -315,22 +150,19 @@ void frmMain::EnableTimer() {
 }
 
 void frmMain::AddWords() {
-    SendMessageW(cboWord, CB_RESETCONTENT, 0, 0);
+    std::vector<std::string> words;
     for (const clsItem& item : services_.index.Get().Words()) {
-        SendMessageW(cboWord, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Widen(item.Word).c_str()));
+        words.push_back(item.Word);
     }
+    cboWord.SetWords(words);
 }
 
 void frmMain::DisableTabs() {
-    for (ctlTabLabel* tab : tabLabel) {
-        tab->SetEnabled(false);
-    }
+    tabLabel.SetEnabled(false);
 }
 
 void frmMain::EnableTabs() {
-    for (ctlTabLabel* tab : tabLabel) {
-        tab->SetEnabled(true);
-    }
+    tabLabel.SetEnabled(true);
 }
 
 // Paints the window and every control in it now: the handlers that repaint go on to keep the
@@ -340,20 +172,18 @@ void frmMain::Repaint() {
 }
 
 void frmMain::SelectPanel(int panel) {
-    tabLabel[panel]->SetSelected(true);
+    tabLabel[panel].SetSelected(true);
     currentTab_ = panel;
     ShowPanel();
 }
 
 void frmMain::ShowPanel() {
-    for (int i = 0; i < kPanelCount; ++i) {
-        ShowWindow(picPanel[i], i == currentTab_ ? SW_SHOW : SW_HIDE);
-    }
+    picPanel.Show(currentTab_);
     Repaint();
 }
 
 void frmMain::BeginIndexing(const std::string& animationPath) {
-    SetWindowPos(picPanel[kProgressPanel], HWND_TOP, 0, 0, 0, 0,
+    SetWindowPos(picPanel.Panel(kProgressPanel), HWND_TOP, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
     SendMessageW(Animation1, ACM_OPENW, 0, reinterpret_cast<LPARAM>(Widen(animationPath).c_str()));
     DisableTabs();
@@ -366,7 +196,7 @@ void frmMain::SetCounter(std::string_view text) {
 
 void frmMain::EndIndexing() {
     SendMessageW(Animation1, ACM_OPENW, 0, 0);  // closes the file and stops playing
-    ShowWindow(picPanel[kProgressPanel], SW_HIDE);
+    ShowWindow(picPanel.Panel(kProgressPanel), SW_HIDE);
     EnableTabs();
     services_.tray.ChangeIcon(hwnd(), icon_.get(), kTip);
 }
@@ -446,45 +276,32 @@ void frmMain::OnCommand(int id, int code, HWND) {
         }
         return;
     }
-    switch (id) {
-        case kIdWord:
-            cboWord_Command(code);
-            break;
-        case kIdGo:
-            cmdGo_Click();
-            break;
-        case kIdUpdate:
-            lnkUpdate_Click();
-            break;
-        case kIdCancel:
-            lnkCancel_Click();
-            break;
-        case kIdGeneralOptions:
-            services_.options.ShowOptions(kOptionsGeneral);
-            break;
-        case kIdFileTypes:
-            services_.options.ShowOptions(kOptionsFileTypes);
-            break;
-        case kIdWords:
-            services_.options.ShowOptions(kOptionsWords);
-            break;
-        case kIdHelp:
-            lnkHelp_Click();
-            break;
-        case kIdQuorinPage:
-            services_.shell.Open(kQuorinPage, "", "", kShowNormal);
-            break;
-        case kIdVeltaroPage:
-            services_.shell.Open(kVeltaroPage, "", "", kShowNormal);
-            break;
-        case kIdMenuGo:
-            mnuSystrayGo_Click();
-            break;
-        case kIdMenuExit:
-            mnuSystrayExit_Click();
-            break;
-        default:
-            break;
+    if (id == kIdWord) {
+        cboWord_Command(code);
+        return;
+    }
+    using Handler = void (*)(frmMain&);
+    static const std::pair<int, Handler> kHandlers[] = {
+        {kIdGo, [](frmMain& form) { form.cmdGo_Click(); }},
+        {kIdUpdate, [](frmMain& form) { form.lnkUpdate_Click(); }},
+        {kIdCancel, [](frmMain& form) { form.lnkCancel_Click(); }},
+        {kIdGeneralOptions,
+         [](frmMain& form) { form.services_.options.ShowOptions(kOptionsGeneral); }},
+        {kIdFileTypes,
+         [](frmMain& form) { form.services_.options.ShowOptions(kOptionsFileTypes); }},
+        {kIdWords, [](frmMain& form) { form.services_.options.ShowOptions(kOptionsWords); }},
+        {kIdHelp, [](frmMain& form) { form.services_.help.ShowTopic(kHelpUsingQuorin); }},
+        // Until the program has a web site, its two web links open help topics that ship with it.
+        {kIdQuorinPage, [](frmMain& form) { form.services_.help.ShowTopic(kHelpAboutQuorin); }},
+        {kIdVeltaroPage, [](frmMain& form) { form.services_.help.ShowTopic(kHelpAboutVeltaro); }},
+        {kIdMenuGo, [](frmMain& form) { form.mnuSystrayGo_Click(); }},
+        {kIdMenuExit, [](frmMain& form) { form.mnuSystrayExit_Click(); }},
+    };
+    for (const auto& [handlerId, handler] : kHandlers) {
+        if (handlerId == id) {
+            handler(*this);
+            return;
+        }
     }
 }
 
@@ -515,8 +332,8 @@ void frmMain::Form_Paint() {
 // Where the word box cannot take the focus (another panel is shown), the focus stays where it
 // is, so that keys never reach a hidden box.
 void frmMain::Form_Activate() {
-    if (IsWindowVisible(cboWord)) {
-        SetFocus(cboWord);
+    if (IsWindowVisible(cboWord.hwnd())) {
+        SetFocus(cboWord.hwnd());
     }
 }
 
@@ -568,15 +385,9 @@ void frmMain::Form_MouseMove(WPARAM wParam, LPARAM lParam) {
         case TrayAction::Restore:
             RestoreFromTray();
             break;
-        case TrayAction::Menu: {
-            SetForegroundWindow(hwnd());
-            POINT cursor{};
-            GetCursorPos(&cursor);
-            TrackPopupMenu(mnuSystray.get(), TPM_RIGHTBUTTON, cursor.x, cursor.y, 0, hwnd(),
-                           nullptr);
-            PostMessageW(hwnd(), WM_NULL, 0, 0);  // lets the menu close on a click elsewhere
+        case TrayAction::Menu:
+            mnuSystray.Show(hwnd());
             break;
-        }
         case TrayAction::None:
             break;
     }
@@ -608,7 +419,7 @@ void frmMain::tabLabel_Click(int Index) {
     ShowPanel();
     switch (Index) {
         case kGoPanel:
-            SetFocus(cboWord);
+            SetFocus(cboWord.hwnd());
             break;
         case kIndexPanel:
             UpdateIndexPanel();
@@ -631,45 +442,23 @@ void frmMain::UpdateIndexPanel() {
 }
 
 void frmMain::cboWord_KeyDown(int KeyCode) {
-    completion_.KeyDown(KeyCode);
+    cboWord.KeyDown(KeyCode);
 }
 
 void frmMain::cboWord_Change() {
-    DWORD caret = 0;
-    SendMessageW(cboWord, CB_GETEDITSEL, reinterpret_cast<WPARAM>(&caret), 0);
-    const std::optional<CompletionEdit> edit = completion_.Change(
-        WindowText(cboWord), static_cast<int>(caret),
-        [this](std::string_view text) -> std::optional<std::string> {
-            if (text.empty()) {
-                return std::nullopt;  // a cleared box is not a prefix of everything
-            }
-            const LRESULT found = SendMessageW(cboWord, CB_FINDSTRING, static_cast<WPARAM>(-1),
-                                               reinterpret_cast<LPARAM>(Widen(text).c_str()));
-            if (found == CB_ERR) {
-                return std::nullopt;
-            }
-            std::wstring entry(
-                static_cast<size_t>(SendMessageW(cboWord, CB_GETLBTEXTLEN, found, 0)) + 1, L'\0');
-            entry.resize(static_cast<size_t>(SendMessageW(cboWord, CB_GETLBTEXT, found,
-                                                          reinterpret_cast<LPARAM>(entry.data()))));
-            return Narrow(entry);
-        });
-    if (edit) {
-        SetText(cboWord, edit->text);
-        SendMessageW(cboWord, CB_SETEDITSEL, 0, MAKELPARAM(edit->selStart, -1));
-    }
+    cboWord.Change();
 }
 
 void frmMain::cboWord_GotFocus() {
-    HighlightControl(cboWord);
+    HighlightControl(cboWord.hwnd());
 }
 
 void frmMain::cboWord_LostFocus() {
-    UnhighlightControl(cboWord);
+    UnhighlightControl(cboWord.hwnd());
 }
 
 void frmMain::cmdGo_Click() {
-    const std::string word = WindowText(cboWord);
+    const std::string word = WindowText(cboWord.hwnd());
     GoAction action = DecideGo(services_.index.Get(), word, *this);
     switch (action.kind) {
         case GoAction::Kind::OpenAssigned:
@@ -705,10 +494,6 @@ void frmMain::lnkUpdate_Click() {
 
 void frmMain::lnkCancel_Click() {
     services_.index.Get().Cancel();
-}
-
-void frmMain::lnkHelp_Click() {
-    services_.help.ShowTopic(kHelpUsingQuorin);
 }
 
 void frmMain::mnuSystrayGo_Click() {

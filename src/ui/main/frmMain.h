@@ -16,12 +16,14 @@
 #include "platform/Shell.h"
 #include "platform/WinHandles.h"
 #include "ui/Window.h"
+#include "ui/controls/TabRow.h"
 #include "ui/controls/ctlLinkLabel.h"
-#include "ui/controls/ctlTabLabel.h"
 #include "ui/help/Help.h"
+#include "ui/main/MainPanels.h"
+#include "ui/main/TrayMenu.h"
 #include "ui/main/MatchesOpener.h"
 #include "ui/main/OptionsOpener.h"
-#include "ui/main/WordCompletion.h"
+#include "ui/main/WordBox.h"
 #include "ui/main/clsSysTray.h"
 
 namespace quorin {
@@ -64,10 +66,6 @@ enum MainControlId : int {
     kIdMenuGo = 300,
     kIdMenuExit = 301,
 };
-
-// The web pages of the help panel's links.
-inline constexpr std::string_view kQuorinPage = "https://quorin.example.com/";
-inline constexpr std::string_view kVeltaroPage = "https://veltaro.example.com/";
 
 // What the main window works with; it owns none of it.
 struct MainServices {
@@ -124,6 +122,8 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     void OnDpiChanged(int dpi, const RECT& suggested) override;
 
   private:
+    friend struct MainDesign;
+
     void Form_Load();
     void Form_Activate();
     bool Form_QueryUnload(bool userClose);  // true cancels the unload
@@ -131,6 +131,8 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     void Form_MouseMove(WPARAM wParam, LPARAM lParam);
     void Form_Paint();
     void cboWord_Command(int code);
+    void CreateControls();
+    void CreatePanelControls();
 
     void tabLabel_Click(int Index);
     void cboWord_KeyDown(int KeyCode);
@@ -141,13 +143,9 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     void Timer1_Timer();
     void lnkUpdate_Click();
     void lnkCancel_Click();
-    void lnkHelp_Click();
     void mnuSystrayGo_Click();
     void mnuSystrayExit_Click();
 
-    void CreateControls();
-    void CreatePanels();
-    void SubclassWordEdit();
     void LayOut();
     void ShowPanel();
     void Repaint();
@@ -157,18 +155,14 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     void ShowCannotExit();
     void SelectPanel(int panel);
     void UpdateIndexPanel();
-    // Adds a child to a panel at a place in twips (a width of 0 keeps the control's own size).
-    HWND AddControl(int panel, const wchar_t* className, std::string_view text, DWORD style, int id,
-                    RECT twips);
-    ctlLinkLabel* AddLink(int panel, int id, std::string_view caption, int left, int top);
     HICON Icon(int resourceId) const;
 
     MainServices services_;
     int dpi_ = 96;
-    std::array<HWND, kPanelCount> picPanel{};
-    std::array<ctlTabLabel*, kTabCount> tabLabel{};
+    MainPanels picPanel;
+    TabRow tabLabel;
     HWND lblEnterWord = nullptr;
-    HWND cboWord = nullptr;
+    WordBox cboWord;
     HWND cmdGo = nullptr;
     HWND lblFile = nullptr;
     HWND ProgressBar1 = nullptr;
@@ -188,16 +182,10 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     HWND lblFolders = nullptr;
     HWND lblCounter = nullptr;
     ctlLinkLabel* lnkCancel = nullptr;
-    struct Placement {
-        HWND control;
-        RECT twips;
-    };
-    std::vector<Placement> placements_;
-    UniqueMenu mnuSystray;
+    TrayMenu mnuSystray{kIdMenuGo, kIdMenuExit};
     UniqueFont font_;
     UniqueIcon icon_;
     UniqueIcon indexingIcon_;
-    WordCompletion completion_;
     int currentTab_ = 0;
     int startX_ = 0;  // remembered position, twips
     int startY_ = 0;

@@ -1,6 +1,5 @@
 #include "ui/splash/Splash.h"
 
-
 #include "QuorinVersion.h"
 #include "resource.h"
 #include "ui/Dpi.h"
@@ -96,7 +95,7 @@ bool frmSplash::OnCreate(const CREATESTRUCTW&) {
         static_cast<HBITMAP>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDB_SPLASH),
                                         IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
     lblVersion = CreateControl(hwnd(), L"STATIC", "Version " QUORIN_VERSION_TEXT,
-                                SS_LEFT | SS_NOPREFIX, kSplashVersionId);
+                               SS_LEFT | SS_NOPREFIX, kSplashVersionId);
     cmdOK = CreateControl(hwnd(), L"BUTTON", "OK", WS_TABSTOP | BS_DEFPUSHBUTTON, kSplashOkId);
     LayOut();
     return true;

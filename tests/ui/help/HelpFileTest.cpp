@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "ui/help/Help.h"
 #include "platform/Path.h"
 #include "platform/TextFile.h"
 #include "support/TempFolder.h"
+#include "ui/help/Help.h"
 
 namespace quorin {
 namespace {
@@ -120,9 +120,9 @@ TEST(LoadHelpTopic, ExplainsAMissingTopicOrFileInTheTopicItself) {
 TEST(ShippedHelpFile, HasEveryTopicTheProgramOpens) {
     const std::string file = HelpFilePath(ExecutableFolder());
     const std::vector<HelpTopic> topics = ParseHelpFile(ReadWholeFile(file));
-    EXPECT_EQ(topics.size(), 5u) << "a header that does not parse loses its topic";
-    for (int context : {kHelpUsingQuorin, kHelpSettingUp, kHelpGeneralOptions, kHelpFileTypeOptions,
-                        kHelpWordOptions}) {
+    EXPECT_EQ(topics.size(), 7u) << "a header that does not parse loses its topic";
+    for (int context : {kHelpUsingQuorin, kHelpSettingUp, kHelpAboutQuorin, kHelpAboutVeltaro,
+                        kHelpGeneralOptions, kHelpFileTypeOptions, kHelpWordOptions}) {
         SCOPED_TRACE(context);
         const HelpTopic* topic = FindHelpTopic(topics, context);
         ASSERT_NE(topic, nullptr);

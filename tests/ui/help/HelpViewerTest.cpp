@@ -4,11 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include "ui/help/HelpViewer.h"
-#include "ui/help/ProgramHelp.h"
 #include "platform/Path.h"
 #include "support/TempFolder.h"
 #include "ui/WindowText.h"
+#include "ui/help/HelpViewer.h"
+#include "ui/help/ProgramHelp.h"
 
 namespace quorin {
 namespace {

@@ -1,6 +1,5 @@
 #include "ui/main/MainWindowFixture.h"
 
-
 namespace quorin::test {
 
 MainWindowTest::~MainWindowTest() {
@@ -10,8 +9,7 @@ MainWindowTest::~MainWindowTest() {
 
 frmMain& MainWindowTest::Load() {
     form = std::make_unique<frmMain>(MainServices{settings, clock, prompter, shell, index, tray,
-                                                  matches, options, help,
-                                                  [this] { ++unloads; }});
+                                                  matches, options, help, [this] { ++unloads; }});
     return *form;
 }
 

@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
+#include "ui/WindowText.h"
 #include "ui/main/MainFakes.h"
 #include "ui/main/clsSysTray.h"
-#include "ui/WindowText.h"
 #include "ui/main/frmMain.h"
 
 namespace quorin::test {

@@ -124,13 +124,11 @@ TEST_F(MainWindowTest, TabsShowTheirPanelsAndTheLinksDoTheirWork) {
     ClickTab(3);
     EXPECT_EQ(help.owner, Window());
     Command(kIdHelp);
-    EXPECT_EQ(help.topics, (std::vector<int32_t>{kHelpUsingQuorin}));
     Command(kIdQuorinPage);
     Command(kIdVeltaroPage);
-    ASSERT_EQ(shell.opened.size(), 2u);
-    EXPECT_EQ(shell.opened[0].file, kQuorinPage);
-    EXPECT_EQ(shell.opened[1].file, kVeltaroPage);
-    EXPECT_EQ(shell.opened[1].showCommand, 5);
+    EXPECT_EQ(help.topics,
+              (std::vector<int32_t>{kHelpUsingQuorin, kHelpAboutQuorin, kHelpAboutVeltaro}))
+        << "every link opens something that ships with the program";
     EXPECT_EQ(unloads, 0);
 }
 

@@ -1,0 +1,109 @@
+#include "ui/main/MainDesign.h"
+
+#include <commctrl.h>
+
+#include "ui/main/frmMain.h"
+
+namespace quorin {
+
+std::span<const MainDesign::Control> MainDesign::Controls() {
+    static const Control kControls[] = {
+        {&frmMain::lblEnterWord, kGoPanel, WC_STATICW, "Enter word:", 0, -1, {120, 165, 960, 225}},
+        {&frmMain::cmdGo,
+         kGoPanel,
+         WC_BUTTONW,
+         "Go",
+         BS_DEFPUSHBUTTON | WS_TABSTOP,
+         kIdGo,
+         {4200, 90, 900, 375}},
+        {&frmMain::lblFile,
+         kGoPanel,
+         WC_STATICW,
+         "",
+         SS_LEFTNOWORDWRAP | SS_NOPREFIX,
+         kIdFile,
+         {1080, 540, 4020, 225}},
+        {&frmMain::ProgressBar1,
+         kGoPanel,
+         PROGRESS_CLASSW,
+         "",
+         0,
+         kIdSearchProgress,
+         {1080, 570, 3000, 165}},
+        {&frmMain::lblIndexLastUpdated,
+         kIndexPanel,
+         WC_STATICW,
+         "Index last updated:",
+         0,
+         -1,
+         {120, 90, 1680, 225}},
+        {&frmMain::lblLastUpdated,
+         kIndexPanel,
+         WC_STATICW,
+         "",
+         SS_NOPREFIX,
+         kIdLastUpdated,
+         {1800, 90, 3400, 225}},
+        {&frmMain::lblUpdateInterval,
+         kIndexPanel,
+         WC_STATICW,
+         "Index automatically updated every 1 day(s).",
+         0,
+         kIdUpdateInterval,
+         {120, 345, 5000, 225}},
+        {&frmMain::lblShutdown,
+         kExitPanel,
+         WC_STATICW,
+         "Please wait while Quorin shuts down...",
+         SS_CENTER,
+         -1,
+         {0, 330, 5280, 225}},
+        {&frmMain::Animation1,
+         kProgressPanel,
+         ANIMATE_CLASSW,
+         "",
+         ACS_CENTER | ACS_TRANSPARENT | ACS_AUTOPLAY,
+         kIdAnimation,
+         {0, 0, 1440, 900}},
+        {&frmMain::lblPleaseWait,
+         kProgressPanel,
+         WC_STATICW,
+         "Please wait while Quorin indexes your hard drive. Depending on how much stuff you "
+         "have, this may take a few minutes...",
+         0,
+         -1,
+         {1500, 30, 3780, 600}},
+        {&frmMain::lblFolders,
+         kProgressPanel,
+         WC_STATICW,
+         "# of folders indexed:",
+         SS_NOPREFIX,
+         -1,
+         {1500, 660, 1650, 225}},
+        {&frmMain::lblCounter,
+         kProgressPanel,
+         WC_STATICW,
+         "",
+         0,
+         kIdCounter,
+         {3150, 660, 1200, 225}},
+    };
+    return kControls;
+}
+
+std::span<const MainDesign::Link> MainDesign::Links() {
+    static const Link kLinks[] = {
+        {&frmMain::lnkUpdate, kIndexPanel, kIdUpdate, "Update Index Now", 120, 600},
+        {&frmMain::lnkGeneralOptions, kOptionsPanel, kIdGeneralOptions, "General Options", 120, 90},
+        {&frmMain::lnkFileTypes, kOptionsPanel, kIdFileTypes, "Change file types that are indexed",
+         120, 345},
+        {&frmMain::lnkWords, kOptionsPanel, kIdWords, "Add/delete assigned words", 120, 600},
+        {&frmMain::lnkHelp, kHelpPanel, kIdHelp, "Click here for help", 120, 90},
+        {&frmMain::lnkQuorin, kHelpPanel, kIdQuorinPage, "Quorin", 120, 345},
+        {&frmMain::lnkVeltaro, kHelpPanel, kIdVeltaroPage, "Veltaro, Inc.", 120, 600},
+        {&frmMain::lnkCancel, kProgressPanel, kIdCancel, "Cancel", 4560, 660},
+    };
+    return kLinks;
+}
+
+}  // namespace quorin
