@@ -1,11 +1,12 @@
 #include "index/IndexSettings.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
-#include "platform/LenientConversions.h"
 #include "platform/Errors.h"
+#include "platform/LenientConversions.h"
 #include "platform/Path.h"
 
 namespace quorin {
@@ -13,10 +14,13 @@ namespace {
 
 constexpr std::string_view kSection = "Index";
 
+std::string SettingName(std::string_view key) {
+    return "The setting \"" + std::string(key) + "\" in section \"" + std::string(kSection) + "\"";
+}
+
 [[noreturn]] void ThrowMismatch(std::string_view key, std::string_view kind,
                                 const std::string& value) {
-    throw TypeMismatchError("The setting \"" + std::string(key) + "\" in section \"" +
-                            std::string(kSection) + "\" must be " + std::string(kind) + ", not \"" +
+    throw TypeMismatchError(SettingName(key) + " must be " + std::string(kind) + ", not \"" +
                             value + "\".");
 }
 
@@ -61,8 +65,34 @@ void ReadDrives(const SettingsStore& store, DriveTable& drives) {
 
 }  // namespace
 
+int32_t ConvertInterval(const std::string& value) {
+    const std::optional<double> number = ParseDecimalNumber(value);
+    if (!number) {
+        ThrowMismatch("Interval", "a number", value);
+    }
+    const std::optional<int32_t> hours = RoundToWholeNumber(*number);
+    if (!hours) {
+        throw OverflowError(SettingName("Interval") + " holds \"" + value +
+                            "\", which is outside the interval's range of " +
+                            std::to_string(INT32_MIN) + " to " + std::to_string(INT32_MAX) +
+                            " hours.");
+    }
+    return *hours;
+}
+
+bool IsReadableInterval(const std::string& value) {
+    try {
+        ConvertInterval(value);
+        return true;
+    } catch (const TypeMismatchError&) {
+        return false;
+    } catch (const OverflowError&) {
+        return false;
+    }
+}
+
 void ReadIndexSettings(const SettingsStore& store, const IndexSettingsFields& fields) {
-    fields.updateInterval = ReadNumber(store, "Interval", "24");
+    fields.updateInterval = ConvertInterval(store.Get(kSection, "Interval", "24"));
     fields.filter = store.Get(kSection, "Filter", kDefaultFilter);
     fields.filterIsInclude = ReadBoolean(store, "FilterIsInclude");
     fields.includeSystemFolders = ReadBoolean(store, "IncludeSystemFolders");

@@ -22,6 +22,15 @@ struct IndexSettingsFields {
     DriveTable& drives;
 };
 
+// "Interval" as the engine reads it: a number with a fraction gives the nearest whole number,
+// halves to even ("2.5" gives 2). TypeMismatchError for text that is not a number, OverflowError
+// for a number that 32 bits cannot hold; both name the setting.
+int32_t ConvertInterval(const std::string& value);
+
+// Whether ConvertInterval takes `value`, so that the Options dialog never stores an interval that
+// would stop the next start.
+bool IsReadableInterval(const std::string& value);
+
 // Reads section "Index" key by key, straight into the fields: when a value is not of its kind
 // (TypeMismatchError) or there are more than 21 drives (OutOfRangeError), the fields read
 // before keep their new values and the later ones their old values.

@@ -105,7 +105,43 @@ TEST(IndexSettingsTest, BothWritersBooleansReadBackAndAMismatchKeepsEarlierField
         message = error.what();
     }
     EXPECT_EQ(message,
-              "The setting \"Interval\" in section \"Index\" must be a whole number, not \"abc\".");
+              "The setting \"Interval\" in section \"Index\" must be a number, not \"abc\".");
+}
+
+TEST(IndexSettingsTest, IntervalWithAFractionReadsAsTheNearestWholeNumber) {
+    MemorySettingsStore store;
+    SettingsFields fields;
+    for (const auto& [text, hours] : {std::pair{"2.5", 2},
+                                      {"3.5", 4},
+                                      {"1.5", 2},
+                                      {" 12 ", 12},
+                                      {"-3", -3},
+                                      {"0.4", 0},
+                                      {"2147483647.49", INT32_MAX}}) {
+        store.Save("Index", "Interval", text);
+        fields.ReadFrom(store);
+        EXPECT_EQ(fields.updateInterval, hours) << text;
+        EXPECT_TRUE(IsReadableInterval(text)) << text;
+    }
+    for (const char* tooLarge : {"2147483647.5", "99999999999", "-2147483649"}) {
+        store.Save("Index", "Interval", tooLarge);
+        EXPECT_THROW(fields.ReadFrom(store), OverflowError) << tooLarge;
+        EXPECT_FALSE(IsReadableInterval(tooLarge)) << tooLarge;
+    }
+    for (const char* notANumber : {"abc", "", "3 hours", "1e3", "&H10"}) {
+        store.Save("Index", "Interval", notANumber);
+        EXPECT_THROW(fields.ReadFrom(store), TypeMismatchError) << notANumber;
+        EXPECT_FALSE(IsReadableInterval(notANumber)) << notANumber;
+    }
+    try {
+        ConvertInterval("99999999999");
+        ADD_FAILURE() << "no overflow";
+    } catch (const OverflowError& error) {
+        EXPECT_STREQ(
+            error.what(),
+            "The setting \"Interval\" in section \"Index\" holds \"99999999999\", which is "
+            "outside the interval's range of -2147483648 to 2147483647 hours.");
+    }
 }
 
 }  // namespace

@@ -2,6 +2,9 @@
 
 #include "platform/LenientConversions.h"
 
+#include <cmath>
+#include <string>
+
 namespace quorin {
 namespace {
 
@@ -20,6 +23,44 @@ TEST(ConversionsTest, NumbersAndLenientBooleans) {
     }
     for (const char* bad : {"", "yes", "Truex", "nan", "inf", "1,5"}) {
         EXPECT_EQ(ParseLenientBoolean(bad), std::nullopt) << bad;
+    }
+}
+
+TEST(ConversionsTest, DecimalNumbersTakeTheWholeNumbersFormAndAFraction) {
+    for (const auto& [text, expected] : {std::pair{" 2.5 ", 2.5},
+                                         {"+7", 7.0},
+                                         {"-3", -3.0},
+                                         {".5", 0.5},
+                                         {"5.", 5.0},
+                                         {"\t1.50\t", 1.5}}) {
+        EXPECT_EQ(ParseDecimalNumber(text), expected) << text;
+    }
+    for (const char* bad :
+         {"", ".", "-", "abc", "1.2.3", "1e3", "&H10", "0x10", "1,5", "- 1", "inf", "nan", "2 5"}) {
+        EXPECT_EQ(ParseDecimalNumber(bad), std::nullopt) << bad;
+    }
+    EXPECT_EQ(ParseDecimalNumber("9" + std::string(400, '0')), HUGE_VAL);
+    EXPECT_EQ(ParseDecimalNumber("-9" + std::string(400, '0')), -HUGE_VAL);
+    EXPECT_EQ(ParseDecimalNumber("0." + std::string(400, '0') + "1"), 0.0);
+}
+
+TEST(ConversionsTest, RoundingGoesToTheNearestAndHalvesToEven) {
+    for (const auto& [value, expected] : {std::pair{2.5, 2},
+                                          {3.5, 4},
+                                          {1.5, 2},
+                                          {0.5, 0},
+                                          {-2.5, -2},
+                                          {-3.5, -4},
+                                          {2.4999, 2},
+                                          {2.5001, 3},
+                                          {-0.4, 0},
+                                          {2147483647.4, INT32_MAX},
+                                          {-2147483648.5, INT32_MIN}}) {
+        EXPECT_EQ(RoundToWholeNumber(value), expected) << value;
+    }
+    for (const double tooLarge :
+         {2147483647.5, 2147483648.0, -2147483649.0, HUGE_VAL, double{NAN}}) {
+        EXPECT_EQ(RoundToWholeNumber(tooLarge), std::nullopt) << tooLarge;
     }
 }
 

@@ -29,7 +29,8 @@ class clsRegistry {
 
     // The names of the key's direct subkeys followed by one empty element. The listing ends
     // at the first name of kMaxKeyNameLength characters or more, which it leaves out. More
-    // than kMaxKeyNames names throw OutOfRangeError.
+    // than kMaxKeyNames names throw TooManyKeyNamesError, an OutOfRangeError carrying
+    // the names listed before the bound.
     std::vector<std::string> GetKeyNames(HKEY lPredefinedKey, const std::string& sKeyName) const;
 
     static constexpr size_t kMaxKeyNames = 5001;

@@ -1,11 +1,12 @@
 #include "platform/registry/clsRegistry.h"
 
-#include "platform/Errors.h"
 #include "platform/Text.h"
 #include "platform/WinHandles.h"
+#include "platform/registry/TooManyKeyNamesError.h"
 
 #include <array>
 #include <cstdint>
+#include <utility>
 
 namespace quorin {
 namespace {
@@ -110,8 +111,9 @@ std::vector<std::string> clsRegistry::GetKeyNames(HKEY lPredefinedKey,
     for (DWORD i = 0;
          key && RegEnumKeyW(key.get(), i, buffer.data(), kMaxKeyNameLength) == ERROR_SUCCESS; ++i) {
         if (names.size() == kMaxKeyNames) {
-            throw OutOfRangeError("The registry key \"" + sKeyName + "\" has more than " +
-                                  std::to_string(kMaxKeyNames) + " subkeys.");
+            throw TooManyKeyNamesError("The registry key \"" + sKeyName + "\" has more than " +
+                                           std::to_string(kMaxKeyNames) + " subkeys.",
+                                       std::move(names));
         }
         names.push_back(Narrow(buffer.data()));
     }

@@ -1,0 +1,169 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <vector>
+
+#include "platform/MemorySettingsStore.h"
+#include "ui/dialogs/DialogTexts.h"
+#include "ui/dialogs/DriveChoice.h"
+#include "ui/dialogs/FileTypeLists.h"
+#include "ui/dialogs/IndexOptions.h"
+#include "ui/dialogs/IntervalText.h"
+#include "ui/dialogs/NewWordPath.h"
+
+namespace quorin {
+namespace {
+
+using Names = std::vector<std::string>;
+using Marks = std::vector<bool>;
+
+TEST(IntervalTextTest, LeadingNumberInShortestFormAndOneForZero) {
+    for (const auto& [typed, shown] : {std::pair{"3 hours", "3"},
+                                       {"2.50", "2.5"},
+                                       {"1.5", "1.5"},
+                                       {"  12", "12"},
+                                       {"-3", "-3"},
+                                       {"-2", "-2"},
+                                       {"-2.50x", "-2.5"},
+                                       {"+4", "4"},
+                                       {".5", "0.5"},
+                                       {"7.", "7"},
+                                       {"1.2.3", "1.2"},
+                                       {"1e3", "1"},
+                                       {"100000000000000000000", "100000000000000000000"},
+                                       {"0", "1"},
+                                       {"", "1"},
+                                       {"abc", "1"},
+                                       {"0.0", "1"},
+                                       {"-0", "1"},
+                                       {".", "1"},
+                                       {"-", "1"},
+                                       {"\t5", "1"},
+                                       {"x5", "1"}}) {
+        EXPECT_EQ(CorrectedIntervalText(typed), shown) << '"' << typed << '"';
+    }
+    const std::string huge(400, '9');
+    EXPECT_EQ(CorrectedIntervalText(huge), huge);
+}
+
+TEST(FileTypeListsTest, KeepsOnlyPlainExtensionsInRegistryOrderAndCase) {
+    EXPECT_EQ(FileTypeNames({"*", ".txt", ".tar.gz", ".a,b", "txtfile", ".Doc", ".", ".x*", ""}),
+              (Names{".txt", ".Doc", "."}));
+}
+
+TEST(FileTypeListsTest, SavedFilterPreselectsInTheSavedModesListOnly) {
+    const FileTypeLists include({".txt", ".doc", ".bmp"}, ".TXT .BMP ", true);
+    EXPECT_EQ(include.Selection(FileTypeList::Include), (Marks{true, false, true}));
+    EXPECT_EQ(include.Selection(FileTypeList::Exclude), (Marks{false, false, false}));
+
+    const FileTypeLists exclude({".txt", ".doc", ".bmp"}, ".TXT .BMP ", false);
+    EXPECT_EQ(exclude.Selection(FileTypeList::Include), (Marks{false, false, false}));
+    EXPECT_EQ(exclude.Selection(FileTypeList::Exclude), (Marks{true, false, true}));
+
+    // A name is listed only with its blank: ".HTM" is not in ".HTML ", the last one needs its own.
+    EXPECT_FALSE(FilterLists(".HTML .TXT", ".htm"));
+    EXPECT_FALSE(FilterLists(".HTML .TXT", ".txt"));
+    EXPECT_TRUE(FilterLists(".HTML .TXT", ".html"));
+}
+
+TEST(FileTypeListsTest, FilterFollowsListOrderAndModeChangeTakesTheComplement) {
+    FileTypeLists lists({".Doc", ".txt", ".bmp"}, ".DOC ", true);
+    EXPECT_EQ(lists.Filter(FileTypeList::Include), ".DOC ");
+
+    lists.SelectComplement(FileTypeList::Exclude);
+    EXPECT_EQ(lists.Selection(FileTypeList::Exclude), (Marks{false, true, true}));
+    EXPECT_EQ(lists.Filter(FileTypeList::Exclude), ".TXT .BMP ");
+
+    lists.Select(FileTypeList::Exclude, 1, false);
+    lists.Select(FileTypeList::Exclude, 2, false);
+    EXPECT_EQ(lists.Filter(FileTypeList::Exclude), "");
+
+    lists.SelectComplement(FileTypeList::Include);
+    EXPECT_EQ(lists.Filter(FileTypeList::Include), ".DOC .TXT .BMP ");
+    EXPECT_THROW(lists.Select(FileTypeList::Include, 3, true), std::out_of_range);
+}
+
+TEST(DriveChoiceTest, OffersFixedAndNetworkDrivesAndMatchesConfiguredOnesOnce) {
+    const Names entries{"a: []", "c: [SYSTEM]", "d: [DATA]", "e: [CD]", "z: [\\\\server\\share]"};
+    Names asked;
+    const Names offered = OfferedDriveEntries(entries, [&](const std::string& root) {
+        asked.push_back(root);
+        return root == "c:\\" || root == "d:\\" ? kFixedDrive
+               : root == "z:\\"                 ? kNetworkDrive
+               : root == "e:\\"                 ? 5u
+                                                : 2u;
+    });
+    EXPECT_EQ(asked, (Names{"a:\\", "c:\\", "d:\\", "e:\\", "z:\\"}));
+    EXPECT_EQ(offered, (Names{"c: [SYSTEM]", "d: [DATA]", "z: [\\\\server\\share]"}));
+
+    // The engine's table: 21 slots, the unused ones empty; a CD drive configured selects nothing.
+    std::array<std::string, 21> configured{"D:", "E:", "z:"};
+    EXPECT_EQ(ConfiguredDriveSelection(offered, configured), (Marks{false, true, true}));
+    EXPECT_EQ(ConfiguredDriveSelection({"c: [A]", "C: [B]"}, configured = {"c:"}),
+              (Marks{true, false}));
+
+    EXPECT_EQ(SelectedDrives(offered, {true, false, true}), (Names{"c:", "z:"}));
+}
+
+// The store's values, and every write in the order it came.
+class RecordingStore final : public SettingsStore {
+  public:
+    std::string Get(std::string_view section, std::string_view key,
+                    std::string_view defaultValue) const override {
+        return values.Get(section, key, defaultValue);
+    }
+    void Save(std::string_view section, std::string_view key, std::string_view value) override {
+        writes.push_back(std::string(section) + ":" + std::string(key) + "=" + std::string(value));
+        values.Save(section, key, value);
+    }
+
+    MemorySettingsStore values;
+    Names writes;
+};
+
+TEST(IndexOptionsTest, WritesTheKeysInOrderAndFormsAndLeavesStaleDrives) {
+    RecordingStore store;
+    store.values.Save("Index", "Drive2", "x:");
+    SaveIndexOptions({"2.5", ".TXT ", true, false, true, {"c:", "e:"}}, store);
+    EXPECT_EQ(store.writes,
+              (Names{"Index:Interval=2.5", "Index:Filter=.TXT ", "Index:FilterIsInclude=True",
+                     "Index:IncludeSystemFolders=0", "Index:IgnoreTempFolders=-1",
+                     "Index:Drive0=c:", "Index:Drive1=e:", "Index:DriveCount=2"}));
+    EXPECT_EQ(store.Get("Index", "Drive2", ""), "x:");
+
+    store.writes.clear();
+    SaveIndexOptions({"24", "", false, true, false, {}}, store);
+    EXPECT_EQ(store.writes, (Names{"Index:Interval=24", "Index:Filter=",
+                                   "Index:FilterIsInclude=False", "Index:IncludeSystemFolders=-1",
+                                   "Index:IgnoreTempFolders=0", "Index:DriveCount=0"}));
+}
+
+TEST(NewWordPathTest, SplitsAtTheLastBackslashBeforeTheFinalCharacter) {
+    for (const auto& [path, folder, file] : {std::tuple{"C:\\DOCS\\a.txt", "C:\\DOCS", "a.txt"},
+                                             {"C:\\DOCS\\*.TXT", "C:\\DOCS", "*.TXT"},
+                                             {"C:\\DOCS\\sub\\", "C:\\DOCS", "sub\\"},
+                                             {"C:\\a.txt", "C:", "a.txt"},
+                                             {"\\x", "", "x"},
+                                             {"a.txt", "", ""},
+                                             {"\\", "", ""},
+                                             {"", "", ""}}) {
+        const FolderAndFile split = SplitAtLastBackslash(path);
+        EXPECT_EQ(split.folder, folder) << path;
+        EXPECT_EQ(split.fileName, file) << path;
+    }
+}
+
+TEST(DialogTextsTest, BuiltTextsQuoteWhatTheyName) {
+    EXPECT_EQ(ConfirmDeleteText("notes", "C:\\DOCS\\notes.txt"),
+              "Are you sure you want to disassociate the word 'notes' from the file "
+              "'C:\\DOCS\\notes.txt'?");
+    EXPECT_NE(WordAlreadyAssignedText("notes").find("'notes'"), std::string::npos);
+    EXPECT_NE(BadIntervalText("9999999999").find("\"9999999999\""), std::string::npos);
+}
+
+}  // namespace
+}  // namespace quorin
