@@ -123,6 +123,11 @@ std::optional<int32_t> RoundToWholeNumber(double value) {
     return static_cast<int32_t>(rounded);
 }
 
+std::optional<int32_t> ParseRoundedNumber(std::string_view text) {
+    const std::optional<double> number = ParseDecimalNumber(text);
+    return number ? RoundToWholeNumber(*number) : std::nullopt;
+}
+
 std::optional<bool> ParseLenientBoolean(std::string_view text) {
     text = TrimBlanks(text);
     if (EqualsIgnoringAsciiCase(text, "true")) {

@@ -19,6 +19,10 @@ std::optional<double> ParseDecimalNumber(std::string_view text);
 // "3.5" gives 4); nullopt when 32 bits cannot hold it.
 std::optional<int32_t> RoundToWholeNumber(double value);
 
+// A number as settings hold positions and sizes: ParseDecimalNumber rounded by
+// RoundToWholeNumber; nullopt for text that is not a number or does not fit 32 bits.
+std::optional<int32_t> ParseRoundedNumber(std::string_view text);
+
 // "True" or "False" in any case, or any number (zero is false), with blanks on either side:
 // settings writers store booleans both ways.
 std::optional<bool> ParseLenientBoolean(std::string_view text);

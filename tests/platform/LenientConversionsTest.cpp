@@ -64,5 +64,14 @@ TEST(ConversionsTest, RoundingGoesToTheNearestAndHalvesToEven) {
     }
 }
 
+TEST(ParseRoundedNumber, ReadsPositionsWithFractionsAndRefusesText) {
+    EXPECT_EQ(ParseRoundedNumber(" 1234.5 "), 1234);
+    EXPECT_EQ(ParseRoundedNumber("-90.7"), -91);
+    EXPECT_EQ(ParseRoundedNumber("7200"), 7200);
+    for (const char* bad : {"", "left", "12px", "3e3", "99999999999"}) {
+        EXPECT_EQ(ParseRoundedNumber(bad), std::nullopt) << bad;
+    }
+}
+
 }  // namespace
 }  // namespace quorin

@@ -3,7 +3,6 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
-#include "platform/LenientConversions.h"
 #include "platform/Text.h"
 #include "resource.h"
 #include "ui/Dpi.h"
@@ -37,11 +36,6 @@ void RegisterClasses() {
     ctlLinkLabel::Register();
 }
 
-int ReadTwips(const SettingsStore& settings, std::string_view key, int defaultValue) {
-    return ParseWholeNumber(settings.Get("Main", key, std::to_string(defaultValue)))
-        .value_or(defaultValue);
-}
-
 }  // namespace
 
 frmMain::frmMain(MainServices services) : services_(std::move(services)) {
@@ -65,16 +59,8 @@ void frmMain::Form_Load() {
     services_.help.Setup(hwnd());
     CreateControls();
     LayOut();
-    RECT frame{};
-    GetWindowRect(hwnd(), &frame);
-    const int screenWidth = PixelsToTwips(GetSystemMetrics(SM_CXSCREEN), dpi_);
-    const int screenHeight = PixelsToTwips(GetSystemMetrics(SM_CYSCREEN), dpi_);
-    startX_ = ReadTwips(services_.settings, "StartX",
-                        (screenWidth - PixelsToTwips(frame.right - frame.left, dpi_)) / 2);
-    startY_ = ReadTwips(services_.settings, "StartY",
-                        (screenHeight - PixelsToTwips(frame.bottom - frame.top, dpi_)) / 2);
-    SetWindowPos(hwnd(), nullptr, TwipsToPixels(startX_, dpi_), TwipsToPixels(startY_, dpi_), 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    startPlace_.Load(services_.settings, hwnd(), dpi_);
+    startPlace_.MoveTo(hwnd(), dpi_, SWP_NOACTIVATE);
     AddWords();
     // Let the word list and the layout settle before the icon invites the first click.
     MessagePump().DoEvents();
@@ -218,7 +204,7 @@ void frmMain::Hide() {
 LRESULT frmMain::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case kWordKeyDown:
-            cboWord_KeyDown(static_cast<int>(wParam));
+            cboWord.KeyDown(static_cast<int>(wParam));  // cboWord_KeyDown
             return 0;
         case WM_MOUSEMOVE:
             Form_MouseMove(wParam, lParam);
@@ -365,8 +351,7 @@ void frmMain::Unload() {
 void frmMain::Form_Unload() {
     {
         const Hourglass busy;
-        services_.settings.Save("Main", "StartX", std::to_string(startX_));
-        services_.settings.Save("Main", "StartY", std::to_string(startY_));
+        startPlace_.Save(services_.settings);
         services_.index.Release();
         services_.tray.RemoveIcon();
     }
@@ -374,10 +359,7 @@ void frmMain::Form_Unload() {
 }
 
 void frmMain::StorePosition() {
-    RECT frame{};
-    GetWindowRect(hwnd(), &frame);
-    startX_ = PixelsToTwips(frame.left, dpi_);
-    startY_ = PixelsToTwips(frame.top, dpi_);
+    startPlace_.Store(hwnd(), dpi_);
 }
 
 void frmMain::Form_MouseMove(WPARAM wParam, LPARAM lParam) {
@@ -401,8 +383,7 @@ void frmMain::RestoreFromTray() {
     ShowWindow(hwnd(), SW_RESTORE);
     SetForegroundWindow(hwnd());
     ShowWindow(hwnd(), SW_SHOW);
-    SetWindowPos(hwnd(), nullptr, TwipsToPixels(startX_, dpi_), TwipsToPixels(startY_, dpi_), 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER);
+    startPlace_.MoveTo(hwnd(), dpi_, 0);
 }
 
 void frmMain::ShowInFront() {
@@ -439,10 +420,6 @@ void frmMain::UpdateIndexPanel() {
     SetText(lblLastUpdated, FormatLocalDateTime(index.LastUpdated));
     SetText(lblUpdateInterval, "The index is automatically updated every " +
                                    std::to_string(index.UpdateInterval) + " hour(s).");
-}
-
-void frmMain::cboWord_KeyDown(int KeyCode) {
-    cboWord.KeyDown(KeyCode);
 }
 
 void frmMain::cboWord_Change() {
@@ -503,19 +480,15 @@ void frmMain::mnuSystrayGo_Click() {
 
 void frmMain::mnuSystrayExit_Click() {
     if (services_.index.Exists() && services_.index.Get().Indexing()) {
-        ShowCannotExit();
+        ShowInFront();
+        services_.prompter.Ask("Cannot exit", kCannotExitText, PromptButtons::Ok,
+                               PromptIcon::Information);
         return;
     }
     SelectPanel(kExitPanel);
     DisableTabs();
     ShowInFront();
     Unload();
-}
-
-void frmMain::ShowCannotExit() {
-    ShowInFront();
-    services_.prompter.Ask("Cannot exit", kCannotExitText, PromptButtons::Ok,
-                           PromptIcon::Information);
 }
 
 }  // namespace quorin

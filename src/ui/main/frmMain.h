@@ -20,9 +20,10 @@
 #include "ui/controls/ctlLinkLabel.h"
 #include "ui/help/Help.h"
 #include "ui/main/MainPanels.h"
-#include "ui/main/TrayMenu.h"
 #include "ui/main/MatchesOpener.h"
 #include "ui/main/OptionsOpener.h"
+#include "ui/main/RememberedPlace.h"
+#include "ui/main/TrayMenu.h"
 #include "ui/main/WordBox.h"
 #include "ui/main/clsSysTray.h"
 
@@ -110,7 +111,7 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     // A control of the window by its id, wherever it lies.
     HWND Control(int id) const;
     int CurrentTab() const { return currentTab_; }
-    POINT RememberedPosition() const { return {startX_, startY_}; }
+    POINT RememberedPosition() const { return startPlace_.Twips(); }
 
   protected:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -135,7 +136,6 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     void CreatePanelControls();
 
     void tabLabel_Click(int Index);
-    void cboWord_KeyDown(int KeyCode);
     void cboWord_Change();
     void cboWord_GotFocus();
     void cboWord_LostFocus();
@@ -152,7 +152,6 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     void ShowInFront();
     void RestoreFromTray();
     void StorePosition();
-    void ShowCannotExit();
     void SelectPanel(int panel);
     void UpdateIndexPanel();
     HICON Icon(int resourceId) const;
@@ -187,8 +186,7 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     UniqueIcon icon_;
     UniqueIcon indexingIcon_;
     int currentTab_ = 0;
-    int startX_ = 0;  // remembered position, twips
-    int startY_ = 0;
+    RememberedPlace startPlace_;
     bool unloaded_ = false;
     UINT taskbarCreated_ = 0;
 };
