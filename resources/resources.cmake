@@ -33,6 +33,10 @@ add_custom_command(
     COMMENT "Building the asset generator for the build machine"
     VERBATIM)
 
+# What quorin.rc includes besides the drawn assets.
+file(GLOB dialogResources CONFIGURE_DEPENDS ${QUORIN_RESOURCE_DIR}/*.h ${QUORIN_RESOURCE_DIR}/*.rc)
+set(QUORIN_DIALOG_RESOURCES ${dialogResources} CACHE INTERNAL "")
+
 set(QUORIN_DRAWN_ASSETS
     ${QUORIN_ASSET_DIR}/quorin.ico
     ${QUORIN_ASSET_DIR}/indexing.ico
@@ -54,7 +58,7 @@ function(quorin_add_resources target)
     # windres looks for the files that the script names in its include folders.
     set_source_files_properties(${rc} PROPERTIES
         INCLUDE_DIRECTORIES ${QUORIN_ASSET_DIR}
-        OBJECT_DEPENDS "${QUORIN_DRAWN_ASSETS};${QUORIN_CONFIGURED_DIR}/quorin.manifest;${QUORIN_RESOURCE_DIR}/resource.h")
+        OBJECT_DEPENDS "${QUORIN_DRAWN_ASSETS};${QUORIN_CONFIGURED_DIR}/quorin.manifest;${QUORIN_DIALOG_RESOURCES}")
     add_dependencies(${target} quorin_drawn_assets)
 endfunction()
 

@@ -8,6 +8,7 @@ namespace quorin {
 class MainOptionsOpener final : public OptionsOpener {
   public:
     void ShowOptions(int) override {}
+    void ShowOptionsModal(HWND, int) override {}
 };
 
 }  // namespace quorin

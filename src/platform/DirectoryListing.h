@@ -14,4 +14,8 @@ using EntryCallback = std::function<void(std::string_view name, bool isFolder)>;
 // the listing includes "." and "..", as the OS returns them.
 void ListFolder(const std::string& folder, bool includeSystem, const EntryCallback& onEntry);
 
+// Whether a listing of exactly this name, wildcards allowed, finds a normal file: no folder and
+// no hidden or system entry.
+bool AnyNormalFileMatches(const std::string& pattern);
+
 }  // namespace quorin

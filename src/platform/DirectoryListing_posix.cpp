@@ -6,6 +6,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <glob.h>
 #include <sys/stat.h>
 
 namespace quorin {
@@ -62,6 +63,21 @@ void ListFolder(const std::string& folder, bool /*includeSystem*/, const EntryCa
             }
         }
     }
+}
+
+bool AnyNormalFileMatches(const std::string& pattern) {
+    glob_t found{};
+    bool any = false;
+    if (glob(pattern.c_str(), GLOB_MARK, nullptr, &found) == 0) {
+        for (size_t i = 0; i < found.gl_pathc && !any; ++i) {
+            const std::string_view path = found.gl_pathv[i];
+            const std::string_view name = path.substr(path.find_last_of('/') + 1);
+            any = !path.ends_with('/') && !name.empty() &&
+                  name.front() != '.';  // GLOB_MARK: folders end in "/"
+        }
+    }
+    globfree(&found);
+    return any;
 }
 
 }  // namespace quorin

@@ -33,4 +33,20 @@ void ListFolder(const std::string& folder, bool includeSystem, const EntryCallba
     } while (FindNextFileW(find.get(), &found));
 }
 
+bool AnyNormalFileMatches(const std::string& pattern) {
+    WIN32_FIND_DATAW found;
+    const UniqueFindHandle find(FindFirstFileExW(Widen(pattern).c_str(), FindExInfoBasic, &found,
+                                                 FindExSearchNameMatch, nullptr, 0));
+    if (!find) {
+        return false;
+    }
+    do {
+        if (IsListed(found.dwFileAttributes, false) &&
+            (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+            return true;
+        }
+    } while (FindNextFileW(find.get(), &found));
+    return false;
+}
+
 }  // namespace quorin

@@ -33,7 +33,16 @@ class FakeMatchesOpener final : public MatchesOpener {
 class FakeOptionsOpener final : public OptionsOpener {
   public:
     void ShowOptions(int panel) override { panels.push_back(panel); }
+    void ShowOptionsModal(HWND owner, int panel) override {
+        modalOwners.push_back(owner);
+        panels.push_back(panel);
+        if (onModal) {
+            onModal();
+        }
+    }
     std::vector<int> panels;
+    std::vector<HWND> modalOwners;
+    std::function<void()> onModal;  // what the user does in the dialog
 };
 
 // The real message pump, with a hook where a build yields, as the user's clicks would come.

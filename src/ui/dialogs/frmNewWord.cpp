@@ -1,0 +1,79 @@
+#include "ui/dialogs/frmNewWord.h"
+
+#include "NewWordDialog.h"
+#include "index/clsIndex.h"
+#include "platform/DirectoryListing.h"
+#include "platform/Prompter.h"
+#include "platform/Text.h"
+#include "ui/FocusColors.h"
+#include "ui/WindowText.h"
+#include "ui/dialogs/DialogTexts.h"
+#include "ui/dialogs/FileChooser.h"
+#include "ui/dialogs/NewWordPath.h"
+
+namespace quorin {
+
+frmNewWord::frmNewWord(NewWordServices services)
+    : Dialog(IDD_NEWWORD), services_(std::move(services)) {}
+
+void frmNewWord::OnInit() {
+    txtWord = Item(IDC_NEWWORD_WORD);
+    txtFilename = Item(IDC_NEWWORD_FILENAME);
+    SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(services_.icon));
+    SendMessageW(hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(services_.icon));
+}
+
+void frmNewWord::OnCommand(int id, int code, HWND control) {
+    if (id == IDC_NEWWORD_BROWSE && code == BN_CLICKED) {
+        cmdBrowse_Click();
+    } else if (code == EN_SETFOCUS && (control == txtWord || control == txtFilename)) {
+        HighlightControl(control);  // txtWord_GotFocus, txtFilename_GotFocus
+    } else if (code == EN_KILLFOCUS && (control == txtWord || control == txtFilename)) {
+        UnhighlightControl(control);
+    }
+}
+
+HBRUSH frmNewWord::OnControlColor(HWND control, HDC dc) {
+    return FocusColors(control, dc);
+}
+
+void frmNewWord::cmdBrowse_Click() {
+    fileName_ = services_.files.Choose(hwnd(), "All files (*.*)|*.*", fileName_);
+    if (!fileName_.empty()) {
+        SetText(txtFilename, fileName_);
+    }
+}
+
+void frmNewWord::cmdOK_Click() {
+    const std::string word = WindowText(txtWord);
+    if (word.find_first_not_of(' ') == std::string::npos) {
+        Refuse(kNoWordText, IDC_NEWWORD_WORD);
+        return;
+    }
+    const std::string path = WindowText(txtFilename);
+    if (!AnyNormalFileMatches(path)) {
+        Refuse(kNoFileText, IDC_NEWWORD_FILENAME);
+        return;
+    }
+    clsIndex& index = services_.index;
+    if (index.Words().Item(word) != nullptr) {
+        Refuse(WordAlreadyAssignedText(word), IDC_NEWWORD_WORD);
+        return;
+    }
+    const FolderAndFile parts = SplitAtLastBackslash(path);
+    clsItem item;
+    item.Word = word;
+    item.UCFilename = ToUpper(word);
+    item.Directory = index.GetDirectory(parts.folder).value_or(0);
+    item.Filename = parts.fileName;
+    index.AddWord(item);
+    EndDialog(IDOK);
+}
+
+// The message, then the focus back into the field at fault; the dialog stays open.
+void frmNewWord::Refuse(std::string_view text, int field) {
+    services_.prompter.Ask(kCannotAddTitle, text, PromptButtons::Ok, PromptIcon::Information);
+    SendMessageW(hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(field)), TRUE);
+}
+
+}  // namespace quorin

@@ -1,0 +1,34 @@
+#include "DialogTestHelpers.h"
+
+#include "ui/MessagePump.h"
+
+namespace quorin::test {
+
+void PressKey(WPARAM key) {
+    const HWND focus = GetFocus();
+    PostMessageW(focus, WM_KEYDOWN, key, 0);
+    PostMessageW(focus, WM_KEYUP, key, 0);
+    MessagePump().DoEvents();
+}
+
+namespace {
+
+std::function<void()>& Pending() {
+    static std::function<void()> action;
+    return action;
+}
+
+void CALLBACK RunPending(HWND, UINT, UINT_PTR id, DWORD) {
+    KillTimer(nullptr, id);
+    const std::function<void()> action = std::move(Pending());
+    action();
+}
+
+}  // namespace
+
+void WhenLoopRuns(std::function<void()> action) {
+    Pending() = std::move(action);
+    SetTimer(nullptr, 0, 1, &RunPending);
+}
+
+}  // namespace quorin::test

@@ -1,0 +1,146 @@
+#include <gtest/gtest.h>
+
+#include "DialogTestHelpers.h"
+#include "NewWordDialog.h"
+#include "cli/SilentProgressWindow.h"
+#include "platform/Path.h"
+#include "platform/TextFile.h"
+#include "ui/FocusColors.h"
+#include "ui/WindowText.h"
+#include "ui/dialogs/frmNewWord.h"
+#include "ui/main/MainFakes.h"
+
+namespace quorin::test {
+namespace {
+
+class NewWordTest : public ProgramFixture {
+  protected:
+    NewWordTest() { file = tree.WriteFile("docs\\plan.txt", "plan"); }
+
+    frmNewWord& Open() {
+        dialog.ShowModeless(nullptr);
+        return dialog;
+    }
+    HWND Field(int id) const { return GetDlgItem(dialog.hwnd(), id); }
+    void Type(int id, std::string_view text) const { SetText(Field(id), text); }
+    void Click(int id) const {
+        SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+                     reinterpret_cast<LPARAM>(Field(id)));
+    }
+    std::vector<std::string> Boxes() const {
+        std::vector<std::string> texts;
+        for (const ScriptedPrompter::Box& box : prompter.boxes) {
+            texts.push_back(box.title + ": " + box.text);
+        }
+        return texts;
+    }
+
+    std::string file;
+    FakeFileChooser files;
+    frmNewWord dialog{NewWordServices{index.Get(), prompter, files, nullptr}};
+};
+
+TEST_F(NewWordTest, RefusesAnEmptyWordBeforeABadFileAndKeepsTheFocusInTheField) {
+    Open();
+    EXPECT_EQ(WindowText(dialog.hwnd()), "Add New Word");
+    Type(IDC_NEWWORD_WORD, "   ");
+    Type(IDC_NEWWORD_FILENAME, JoinPath(tree.Path(), "missing.txt"));
+    Click(IDOK);
+    Type(IDC_NEWWORD_WORD, "plan");
+    Click(IDOK);
+    Type(IDC_NEWWORD_FILENAME, JoinPath(tree.Path(), "docs"));
+    Click(IDOK);
+    EXPECT_EQ(Boxes(), (std::vector<std::string>{"Cannot add: Pleae enter a word to assign.",
+                                                 "Cannot add: That is not a valid filename.",
+                                                 "Cannot add: That is not a valid filename."}))
+        << "a folder is not a file";
+    EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Information);
+    EXPECT_EQ(GetFocus(), Field(IDC_NEWWORD_FILENAME));
+    EXPECT_TRUE(IsWindow(dialog.hwnd())) << "the dialog stays open";
+    EXPECT_EQ(index.Get().Words().Count(), 0);
+}
+
+TEST_F(NewWordTest, AssignsTheWordAsTypedToTheFileAndCloses) {
+    SilentProgressWindow progress;
+    index.Get().CreateIndex(true, progress);
+    Open();
+    Type(IDC_NEWWORD_WORD, " my plan ");
+    Type(IDC_NEWWORD_FILENAME, file);
+    Click(IDOK);
+    EXPECT_TRUE(prompter.boxes.empty());
+    EXPECT_FALSE(IsWindow(dialog.hwnd()));
+    const clsItem* item = index.Get().Words().Item(" my plan ");
+    ASSERT_NE(item, nullptr) << "the word keeps its blanks";
+    EXPECT_EQ(item->Filename, "plan.txt");
+    EXPECT_EQ(index.Get().GetPath(item->Directory), JoinPath(tree.Path(), "docs"));
+    EXPECT_TRUE(FileExists(JoinPath(program.Path(), "words.txt"))) << "saved at once";
+}
+
+TEST_F(NewWordTest, AWordAlreadyAssignedIsNamedAndNothingChanges) {
+    index.Get().AddWord({"plan", "old.txt", 0, "PLAN"});
+    Open();
+    Type(IDC_NEWWORD_WORD, "PLAN");
+    Type(IDC_NEWWORD_FILENAME, file);
+    Click(IDOK);
+    ASSERT_EQ(prompter.boxes.size(), 1u);
+    EXPECT_NE(prompter.boxes[0].text.find("'PLAN'"), std::string::npos) << prompter.boxes[0].text;
+    EXPECT_EQ(index.Get().Words().Item("plan")->Filename, "old.txt");
+    EXPECT_EQ(GetFocus(), Field(IDC_NEWWORD_WORD));
+}
+
+TEST_F(NewWordTest, BrowseKeepsTheLastChoiceAndWildcardsPass) {
+    Open();
+    files.answer = file;
+    Click(IDC_NEWWORD_BROWSE);
+    EXPECT_EQ(WindowText(Field(IDC_NEWWORD_FILENAME)), file);
+    EXPECT_EQ(files.filters.back(), "All files (*.*)|*.*");
+    files.answer.clear();  // cancelled: the earlier choice comes back
+    Type(IDC_NEWWORD_FILENAME, "typed over");
+    Click(IDC_NEWWORD_BROWSE);
+    EXPECT_EQ(WindowText(Field(IDC_NEWWORD_FILENAME)), file);
+    EXPECT_EQ(files.starts.back(), file);
+
+    Type(IDC_NEWWORD_WORD, "plans");
+    Type(IDC_NEWWORD_FILENAME, JoinPath(JoinPath(tree.Path(), "docs"), "*.TXT"));
+    Click(IDOK);
+    ASSERT_NE(index.Get().Words().Item("plans"), nullptr);
+    EXPECT_EQ(index.Get().Words().Item("plans")->Filename, "*.TXT");
+}
+
+TEST_F(NewWordTest, FieldsShowTheFocusColoursAndKeysWorkAsInADialog) {
+    Open();
+    SetForegroundWindow(dialog.hwnd());
+    EXPECT_EQ(GetFocus(), Field(IDC_NEWWORD_WORD)) << "the first control has the focus";
+    Type(IDC_NEWWORD_WORD, "x");
+    HDC dc = GetDC(Field(IDC_NEWWORD_WORD));
+    EXPECT_EQ(SendMessageW(dialog.hwnd(), WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc),
+                           reinterpret_cast<LPARAM>(Field(IDC_NEWWORD_WORD))),
+              reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_INFOBK)));
+    ReleaseDC(Field(IDC_NEWWORD_WORD), dc);
+    PressKey(VK_TAB);
+    EXPECT_EQ(GetFocus(), Field(IDC_NEWWORD_FILENAME));
+    PressKey(VK_RETURN);
+    EXPECT_EQ(Boxes(), (std::vector<std::string>{"Cannot add: That is not a valid filename."}))
+        << "Enter presses OK";
+    PressKey(VK_ESCAPE);
+    EXPECT_FALSE(IsWindow(dialog.hwnd())) << "Escape cancels";
+    EXPECT_EQ(index.Get().Words().Count(), 0);
+}
+
+TEST_F(NewWordTest, ModalDisablesItsOwnerUntilItCloses) {
+    const HWND owner = CreateWindowExW(0, L"STATIC", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0,
+                                       0, 200, 100, nullptr, nullptr, nullptr, nullptr);
+    bool ownerEnabled = true;
+    WhenLoopRuns([&] {
+        ownerEnabled = IsWindowEnabled(owner) != FALSE;
+        SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    });
+    EXPECT_EQ(dialog.ShowModal(owner), IDCANCEL);
+    EXPECT_FALSE(ownerEnabled);
+    EXPECT_TRUE(IsWindowEnabled(owner));
+    EXPECT_FALSE(IsWindow(dialog.hwnd()));
+    DestroyWindow(owner);
+}
+
+}  // namespace
+}  // namespace quorin::test
