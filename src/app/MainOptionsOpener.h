@@ -1,14 +1,46 @@
 #pragma once
 
+#include <windows.h>
+
+#include <functional>
+#include <memory>
+
+#include "index/LazyIndex.h"
+#include "platform/Prompter.h"
+#include "platform/SettingsStore.h"
+#include "ui/dialogs/FileChooser.h"
+#include "ui/dialogs/frmOptions.h"
+#include "ui/help/Help.h"
 #include "ui/main/OptionsOpener.h"
 
 namespace quorin {
 
-// Until the Options dialog exists, its three links open nothing.
+// Opens the Options dialog: one at a time from the main window, modeless; modal for the wizard.
 class MainOptionsOpener final : public OptionsOpener {
   public:
-    void ShowOptions(int) override {}
-    void ShowOptionsModal(HWND, int) override {}
+    MainOptionsOpener(LazyIndex& index, SettingsStore& settings, Prompter& prompter, Help& help)
+        : index_(index), settings_(settings), prompter_(prompter), help_(help) {}
+
+    // The main window, which owns the modeless dialog, and its word list and icon.
+    void SetMainWindow(HWND window) { mainWindow_ = window; }
+    void SetAddWords(std::function<void()> addWords) { addWords_ = std::move(addWords); }
+    void SetIcon(HICON icon) { icon_ = icon; }
+
+    void ShowOptions(int panel) override;
+    void ShowOptionsModal(HWND owner, int panel) override;
+
+  private:
+    OptionsServices Services();
+
+    LazyIndex& index_;
+    SettingsStore& settings_;
+    Prompter& prompter_;
+    Help& help_;
+    CommonFileChooser files_;
+    HWND mainWindow_ = nullptr;
+    std::function<void()> addWords_;
+    HICON icon_ = nullptr;
+    std::unique_ptr<frmOptions> open_;
 };
 
 }  // namespace quorin

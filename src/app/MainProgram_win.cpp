@@ -32,11 +32,11 @@ int RunQuorin() {
     MessageBoxPrompter prompter;
     ShellExecuteShell shell;
     MessagePump events;
-    MainOptionsOpener options;
     const std::string programFolder = ExecutableFolder();
     ProgramHelp help(programFolder);
     LazyIndex index({settings, clock, prompter, events, programFolder});
     MainMatchesOpener matches(index, shell, settings, prompter);
+    MainOptionsOpener options(index, settings, prompter, help);
     Startup startup({settings, clock, prompter, shell, index, matches, options, help, programFolder,
                      true, [] { PostQuitMessage(0); }});
 
@@ -46,9 +46,13 @@ int RunQuorin() {
     }
     frmMain* mainForm = startup.MainForm();
     prompter.SetOwner(mainForm->hwnd());
+    const auto icon =
+        reinterpret_cast<HICON>(SendMessageW(mainForm->hwnd(), WM_GETICON, ICON_SMALL, 0));
     matches.SetAddWords([mainForm] { mainForm->AddWords(); });
-    matches.SetIcon(
-        reinterpret_cast<HICON>(SendMessageW(mainForm->hwnd(), WM_GETICON, ICON_SMALL, 0)));
+    matches.SetIcon(icon);
+    options.SetMainWindow(mainForm->hwnd());
+    options.SetAddWords([mainForm] { mainForm->AddWords(); });
+    options.SetIcon(icon);
     return MessagePump::Run();
 }
 

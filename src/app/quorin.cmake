@@ -1,8 +1,9 @@
 # Start-up with the shared globals, the wiring of the real services, and the program itself.
-add_library(quorin_startup STATIC Main.cpp MainInstance.cpp MainMatchesOpener.cpp modGlobals.cpp)
+add_library(quorin_startup STATIC Main.cpp MainInstance.cpp MainMatchesOpener.cpp
+                                  MainOptionsOpener.cpp modGlobals.cpp)
 quorin_options(quorin_startup)
 target_link_libraries(quorin_startup PUBLIC quorin_main_window quorin_matches quorin_help
-                                     quorin_splash quorin_resources)
+                                     quorin_splash quorin_dialogs quorin_resources)
 
 add_executable(quorin WIN32 MainProgram_win.cpp)
 quorin_options(quorin)

@@ -5,8 +5,20 @@
 namespace quorin {
 namespace {
 
+UINT ButtonStyleOf(PromptButtons buttons) {
+    switch (buttons) {
+        case PromptButtons::YesNo:
+            return MB_YESNO;
+        case PromptButtons::YesNoCancel:
+            return MB_YESNOCANCEL;
+        case PromptButtons::Ok:
+            break;
+    }
+    return MB_OK;
+}
+
 UINT StyleOf(PromptButtons buttons, PromptIcon icon) {
-    const UINT buttonStyle = buttons == PromptButtons::YesNo ? MB_YESNO : MB_OK;
+    const UINT buttonStyle = ButtonStyleOf(buttons);
     switch (icon) {
         case PromptIcon::Information:
             return buttonStyle | MB_ICONINFORMATION;
@@ -38,11 +50,13 @@ PromptAnswer AnswerOf(int result) {
 }  // namespace
 
 // A tray program asks while none of its windows may be in front (at start-up, or from the tray),
-// so the box takes the foreground itself rather than waiting grey behind other programs.
+// so the box takes the foreground itself rather than waiting grey behind other programs. It
+// belongs to the program's active window (a dialog asking), else to the main window.
 PromptAnswer MessageBoxPrompter::Ask(std::string_view title, std::string_view text,
                                      PromptButtons buttons, PromptIcon icon) {
-    return AnswerOf(MessageBoxW(owner_, Widen(text).c_str(), Widen(title).c_str(),
-                                StyleOf(buttons, icon) | MB_SETFOREGROUND));
+    const HWND active = GetActiveWindow();
+    return AnswerOf(MessageBoxW(active != nullptr ? active : owner_, Widen(text).c_str(),
+                                Widen(title).c_str(), StyleOf(buttons, icon) | MB_SETFOREGROUND));
 }
 
 }  // namespace quorin

@@ -4,7 +4,7 @@
 
 namespace quorin {
 
-enum class PromptButtons { Ok, YesNo };
+enum class PromptButtons { Ok, YesNo, YesNoCancel };
 enum class PromptIcon { None, Information, Question, Exclamation, Critical };
 enum class PromptAnswer { Ok, Yes, No, Cancel };
 

@@ -1,0 +1,24 @@
+// The Options dialog's templates and control ids, shared by its .rc file and the code.
+#pragma once
+
+#define IDD_OPTIONS 300
+#define IDD_OPTIONS_GENERAL 301
+#define IDD_OPTIONS_FILETYPES 302
+#define IDD_OPTIONS_WORDS 303
+
+#define IDC_OPTIONS_TABS 310
+#define IDC_OPTIONS_HELP 311
+
+#define IDC_OPTIONS_IGNORE 320
+#define IDC_OPTIONS_SYSTEM 321
+#define IDC_OPTIONS_DRIVES 322
+#define IDC_OPTIONS_INTERVAL 323
+
+#define IDC_OPTIONS_INCLUDEMODE 330
+#define IDC_OPTIONS_EXCLUDEMODE 331
+#define IDC_OPTIONS_INCLUDE 332
+#define IDC_OPTIONS_EXCLUDE 333
+
+#define IDC_OPTIONS_WORDS 340
+#define IDC_OPTIONS_DELETE 341
+#define IDC_OPTIONS_ADDNEW 342

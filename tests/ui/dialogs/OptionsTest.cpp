@@ -1,0 +1,265 @@
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <gtest/gtest.h>
+
+#include "DialogTestHelpers.h"
+#include "OptionsDialog.h"
+#include "platform/Path.h"
+#include "platform/Text.h"
+#include "platform/TextFile.h"
+#include "ui/WindowText.h"
+#include "ui/dialogs/frmOptions.h"
+#include "ui/main/MainFakes.h"
+
+namespace quorin::test {
+namespace {
+
+class OptionsTest : public ProgramFixture {
+  protected:
+    OptionsTest() {
+        settings.Save("Index", "Drive0", "D:");
+        settings.Save("Index", "Drive1", "q:");
+        settings.Save("Index", "DriveCount", "2");
+        settings.Save("Index", "Drive2", "stale");
+        settings.Save("Index", "Filter", ".DOC ");
+        settings.Save("Index", "FilterIsInclude", "True");
+        index.Get().UpdateSettings();  // the dialog's services made the engine already
+    }
+
+    frmOptions& Open(int page) {
+        dialog.Panel(page);
+        dialog.ShowModeless(nullptr);
+        SetForegroundWindow(dialog.hwnd());
+        return dialog;
+    }
+    // A control of the dialog or of one of its pages.
+    HWND Control(int id) const {
+        if (HWND found = GetDlgItem(dialog.hwnd(), id)) {
+            return found;
+        }
+        for (HWND page = GetWindow(dialog.hwnd(), GW_CHILD); page != nullptr;
+             page = GetWindow(page, GW_HWNDNEXT)) {
+            if (HWND found = GetDlgItem(page, id)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+    void Click(int id) const {
+        const HWND control = Control(id);
+        SendMessageW(GetParent(control), WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+                     reinterpret_cast<LPARAM>(control));
+    }
+    // A user's click in a multi-select list: the item toggles and the list tells its parent.
+    void ToggleInList(int id, int item) const {
+        const HWND list = Control(id);
+        const LRESULT selected = SendMessageW(list, LB_GETSEL, item, 0);
+        SendMessageW(list, LB_SETSEL, selected > 0 ? FALSE : TRUE, item);
+        SendMessageW(GetParent(list), WM_COMMAND, MAKEWPARAM(id, LBN_SELCHANGE),
+                     reinterpret_cast<LPARAM>(list));
+    }
+    std::vector<std::string> Selected(int id) const {
+        std::vector<std::string> texts;
+        const HWND list = Control(id);
+        for (int i = 0; i < SendMessageW(list, LB_GETCOUNT, 0, 0); ++i) {
+            if (SendMessageW(list, LB_GETSEL, i, 0) > 0) {
+                wchar_t text[64] = {};
+                SendMessageW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text));
+                texts.push_back(Narrow(text));
+            }
+        }
+        return texts;
+    }
+    bool Shown(int id) const { return IsWindowVisible(Control(id)) != FALSE; }
+    std::string Setting(std::string_view key) const { return settings.Get("Index", key, "-"); }
+
+    FakeFileChooser files;
+    std::vector<std::string> roots;
+    int addWords = 0;
+    frmOptions dialog{OptionsServices{
+        index.Get(), settings, prompter, help, files,
+        DriveSource{[] {
+                        return std::vector<std::string>{"a:", "c: [SYSTEM]", "d: [DATA]",
+                                                        "e: [DVD]", "n: [SHARE]"};
+                    },
+                    [this](const std::string& root) -> unsigned {
+                        roots.push_back(root);
+                        return root == "a:\\" || root == "e:\\" ? 2u : root == "n:\\" ? 4u : 3u;
+                    }},
+        [] {
+            return std::vector<std::string>{".doc", ".txt", ".bmp"};
+        },
+        [this] { ++addWords; }, nullptr}};
+};
+
+TEST_F(OptionsTest, OpensAtItsPageAndChangesPagesByTabKeysAndHelp) {
+    Open(2);
+    EXPECT_EQ(WindowText(dialog.hwnd()), "Options");
+    const HWND tabs = Control(IDC_OPTIONS_TABS);
+    EXPECT_EQ(TabCtrl_GetCurSel(tabs), 2);
+    EXPECT_TRUE(Shown(IDC_OPTIONS_WORDS));
+    EXPECT_FALSE(Shown(IDC_OPTIONS_DRIVES));
+    EXPECT_FALSE(Shown(IDC_OPTIONS_INCLUDE));
+    Click(IDC_OPTIONS_HELP);
+
+    SetFocus(tabs);
+    BYTE keys[256] = {};
+    GetKeyboardState(keys);
+    keys[VK_CONTROL] = 0x80;
+    SetKeyboardState(keys);
+    PressKey(VK_TAB);
+    keys[VK_CONTROL] = 0;
+    SetKeyboardState(keys);
+    EXPECT_EQ(dialog.CurrentPage(), 0) << "Ctrl+Tab goes round";
+    EXPECT_TRUE(Shown(IDC_OPTIONS_DRIVES));
+    Click(IDC_OPTIONS_HELP);
+    dialog.Panel(1);
+    EXPECT_EQ(TabCtrl_GetCurSel(tabs), 1);
+    EXPECT_TRUE(Shown(IDC_OPTIONS_INCLUDE));
+    EXPECT_EQ(GetFocus(), Control(IDC_OPTIONS_INCLUDE)) << "the list of the mode chosen";
+    Click(IDC_OPTIONS_HELP);
+    EXPECT_EQ(help.topics, (std::vector<int32_t>{100, 80, 90}));
+}
+
+TEST_F(OptionsTest, GeneralPageOffersFixedAndNetworkDrivesAndSelectsTheConfiguredOnes) {
+    Open(0);
+    const HWND drives = Control(IDC_OPTIONS_DRIVES);
+    ASSERT_EQ(SendMessageW(drives, LB_GETCOUNT, 0, 0), 3);
+    EXPECT_EQ(Selected(IDC_OPTIONS_DRIVES), (std::vector<std::string>{"d: [DATA]"}))
+        << "D: matches d: [DATA]; q: is gone";
+    EXPECT_EQ(roots.front(), "a:\\");
+    EXPECT_EQ(WindowText(Control(IDC_OPTIONS_INTERVAL)), "24");
+    EXPECT_EQ(IsDlgButtonChecked(GetParent(drives), IDC_OPTIONS_SYSTEM), BST_CHECKED);
+
+    const HWND interval = Control(IDC_OPTIONS_INTERVAL);
+    for (const auto& [typed, shown] : std::vector<std::pair<std::string, std::string>>{
+             {"3 hours", "3"}, {"2.50", "2.5"}, {"0", "1"}, {"abc", "1"}, {"-3", "-3"}}) {
+        SetFocus(interval);
+        SetText(interval, typed);
+        SetFocus(drives);
+        EXPECT_EQ(WindowText(interval), shown) << typed;
+    }
+}
+
+TEST_F(OptionsTest, OkStoresTheIndexSettingsInTheirFormsAndTellsTheEngine) {
+    Open(0);
+    ToggleInList(IDC_OPTIONS_DRIVES, 0);  // c: [SYSTEM] too
+    SetText(Control(IDC_OPTIONS_INTERVAL), "1.5");
+    Click(IDC_OPTIONS_IGNORE);
+    SendMessageW(Control(IDC_OPTIONS_IGNORE), BM_SETCHECK, BST_UNCHECKED, 0);
+    Click(IDOK);
+    EXPECT_TRUE(prompter.boxes.empty());
+    EXPECT_FALSE(IsWindow(dialog.hwnd()));
+    EXPECT_EQ(Setting("Interval"), "1.5");
+    EXPECT_EQ(Setting("Filter"), ".DOC ");
+    EXPECT_EQ(Setting("FilterIsInclude"), "True");
+    EXPECT_EQ(Setting("IncludeSystemFolders"), "-1");
+    EXPECT_EQ(Setting("IgnoreTempFolders"), "0");
+    EXPECT_EQ(Setting("Drive0"), "c:");
+    EXPECT_EQ(Setting("Drive1"), "d:");
+    EXPECT_EQ(Setting("DriveCount"), "2");
+    EXPECT_EQ(Setting("Drive2"), "stale") << "higher keys are left alone";
+    EXPECT_EQ(index.Get().UpdateInterval, 2) << "the engine read the settings again";
+    EXPECT_EQ(addWords, 0) << "no word changed";
+}
+
+TEST_F(OptionsTest, AnIntervalTheNextStartCouldNotReadIsRefused) {
+    Open(1);
+    SetText(Control(IDC_OPTIONS_INTERVAL), "99999999999");
+    Click(IDOK);
+    ASSERT_EQ(prompter.boxes.size(), 1u);
+    EXPECT_NE(prompter.boxes[0].text.find("99999999999"), std::string::npos);
+    EXPECT_EQ(dialog.CurrentPage(), 0);
+    EXPECT_EQ(GetFocus(), Control(IDC_OPTIONS_INTERVAL));
+    EXPECT_EQ(Setting("Interval"), "-") << "nothing written";
+    Click(IDCANCEL);
+    EXPECT_FALSE(IsWindow(dialog.hwnd()));
+    EXPECT_EQ(Setting("DriveCount"), "2");
+}
+
+TEST_F(OptionsTest, FileTypesFollowTheSavedModeAndAModeChangeKeepsTheTypesIndexed) {
+    Open(1);
+    EXPECT_EQ(Selected(IDC_OPTIONS_INCLUDE), (std::vector<std::string>{".doc"}));
+    EXPECT_TRUE(Selected(IDC_OPTIONS_EXCLUDE).empty());
+    EXPECT_FALSE(IsWindowEnabled(Control(IDC_OPTIONS_EXCLUDE)));
+    CheckRadioButton(GetParent(Control(IDC_OPTIONS_EXCLUDEMODE)), IDC_OPTIONS_INCLUDEMODE,
+                     IDC_OPTIONS_EXCLUDEMODE, IDC_OPTIONS_EXCLUDEMODE);
+    Click(IDC_OPTIONS_EXCLUDEMODE);
+    EXPECT_EQ(Selected(IDC_OPTIONS_EXCLUDE), (std::vector<std::string>{".txt", ".bmp"}));
+    EXPECT_TRUE(IsWindowEnabled(Control(IDC_OPTIONS_EXCLUDE)));
+    ToggleInList(IDC_OPTIONS_EXCLUDE, 2);
+    Click(IDOK);
+    EXPECT_EQ(Setting("Filter"), ".TXT ");
+    EXPECT_EQ(Setting("FilterIsInclude"), "False");
+}
+
+TEST_F(OptionsTest, AnEmptyFilterIsQuestioned) {
+    Open(1);
+    ToggleInList(IDC_OPTIONS_INCLUDE, 0);
+    prompter.answers = {PromptAnswer::Cancel, PromptAnswer::Yes};
+    Click(IDOK);
+    ASSERT_EQ(prompter.boxes.size(), 1u);
+    EXPECT_EQ(prompter.boxes[0].title, "No filter specified");
+    EXPECT_EQ(prompter.boxes[0].buttons, PromptButtons::YesNoCancel);
+    EXPECT_TRUE(IsWindow(dialog.hwnd()));
+    EXPECT_EQ(Setting("Interval"), "-");
+    Click(IDOK);
+    EXPECT_EQ(Setting("Filter"), ".DOC ") << "Yes keeps the saved filter";
+}
+
+TEST_F(OptionsTest, NoToTheEmptyFilterQuestionStoresAnEmptyFilter) {
+    Open(1);
+    ToggleInList(IDC_OPTIONS_INCLUDE, 0);
+    prompter.answers = {PromptAnswer::No};
+    Click(IDOK);
+    EXPECT_FALSE(IsWindow(dialog.hwnd()));
+    EXPECT_EQ(Setting("Filter"), "");
+}
+
+TEST_F(OptionsTest, WordsAreRemovedAfterAskingAndAddedThroughTheirDialog) {
+    index.Get().AddWord({"plan", "plan.txt", 0, "PLAN"});
+    Open(2);
+    const HWND words = Control(IDC_OPTIONS_WORDS);
+    ASSERT_EQ(ListView_GetItemCount(words), 1);
+    Click(IDC_OPTIONS_DELETE);
+    EXPECT_TRUE(prompter.boxes.empty()) << "no row selected: nothing asked";
+
+    ListView_SetItemState(words, 0, LVIS_SELECTED, LVIS_SELECTED);
+    prompter.answers = {PromptAnswer::No, PromptAnswer::Yes};
+    Click(IDC_OPTIONS_DELETE);
+    ASSERT_EQ(prompter.boxes.size(), 1u);
+    EXPECT_EQ(prompter.boxes[0].title, "Confirm delete");
+    EXPECT_EQ(prompter.boxes[0].text,
+              "Are you sure you want to disassociate the word 'plan' from the file '" +
+                  index.Get().GetPath(0) + "\\plan.txt'?");
+    EXPECT_EQ(ListView_GetItemCount(words), 1);
+    Click(IDC_OPTIONS_DELETE);
+    EXPECT_EQ(ListView_GetItemCount(words), 0);
+    EXPECT_EQ(ReadWholeFile(JoinPath(program.Path(), "words.txt")), "") << "saved at once";
+
+    WhenLoopRuns([&] {
+        const HWND newWord = GetActiveWindow();
+        EXPECT_EQ(WindowText(newWord), "Add New Word");
+        EXPECT_FALSE(IsWindowEnabled(dialog.hwnd())) << "modal over the Options dialog";
+        SendMessageW(newWord, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    });
+    Click(IDC_OPTIONS_ADDNEW);
+    Click(IDCANCEL);
+    EXPECT_EQ(addWords, 0) << "Cancel does not refresh the main window";
+}
+
+TEST_F(OptionsTest, OkAfterAWordChangeReloadsTheWordsForTheMainWindow) {
+    index.Get().AddWord({"plan", "plan.txt", 0, "PLAN"});
+    Open(2);
+    ListView_SetItemState(Control(IDC_OPTIONS_WORDS), 0, LVIS_SELECTED, LVIS_SELECTED);
+    prompter.answers = {PromptAnswer::Yes};
+    Click(IDC_OPTIONS_DELETE);
+    Click(IDOK);
+    EXPECT_EQ(addWords, 1);
+    EXPECT_EQ(index.Get().Words().Count(), 0);
+}
+
+}  // namespace
+}  // namespace quorin::test
