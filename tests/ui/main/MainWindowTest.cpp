@@ -391,6 +391,16 @@ TEST_F(CompletionTest, NoEntryLeavesTheTextAndTheTopEntryWins) {
     EXPECT_EQ(Shown(), "Note[s]") << "the entry nearer the top";
 }
 
+TEST_F(CompletionTest, ReloadingTheWordsKeepsTheTypedTextAndItsSelection) {
+    Assign({"notes"});
+    Type("no");
+    EXPECT_EQ(Shown(), "no[tes]");
+    index.Get().AddWord({"nothing", "nothing.exe", 0, {}});
+    form->AddWords();
+    EXPECT_EQ(Shown(), "no[tes]");
+    EXPECT_EQ(SendMessageW(Control(kIdWord), CB_GETCOUNT, 0, 0), 2);
+}
+
 TEST_F(CompletionTest, FocusShowsTheTooltipColoursAndSelectsAll) {
     SetWord("word");
     form->Show();

@@ -1,0 +1,50 @@
+// A window to look at, not a test: the Options dialog at one of its pages, or the Add New Word
+// dialog, on a scratch program folder with one assigned word, the system's drives and file
+// types. dialogs_shots.sh takes the screenshots.
+// Usage: dialogs_look general|filetypes|words|newword
+#include <windows.h>
+
+#include <string>
+
+#include "platform/registry/clsRegistry.h"
+#include "ui/dialogs/FileChooser.h"
+#include "ui/dialogs/KnownExtensions.h"
+#include "ui/dialogs/SystemDrives.h"
+#include "ui/dialogs/frmNewWord.h"
+#include "ui/dialogs/frmOptions.h"
+#include "ui/main/MainFakes.h"
+
+namespace quorin::test {
+namespace {
+
+class Look final : public ProgramFixture {
+  public:
+    int Run(const std::wstring& what) {
+        settings.Save("Index", "Filter", ".DOC .TXT .EXE ");
+        settings.Save("Index", "FilterIsInclude", "True");
+        settings.Save("Index", "Drive0", "C:");
+        index.Get().UpdateSettings();
+        index.Get().AddWord({"budget", "budget 2026.xls", 0, "BUDGET"});
+        if (what == L"newword") {
+            frmNewWord dialog({index.Get(), prompter, files, nullptr});
+            return static_cast<int>(dialog.ShowModal(nullptr));
+        }
+        frmOptions dialog({index.Get(), settings, prompter, help, files,
+                           DriveSource{&SystemDriveEntries, &SystemDriveType},
+                           [] { return KnownExtensions(clsRegistry{}); }, nullptr, nullptr});
+        dialog.Panel(what == L"filetypes" ? 1 : what == L"words" ? 2 : 0);
+        return static_cast<int>(dialog.ShowModal(nullptr));
+    }
+
+  private:
+    void TestBody() override {}
+    CommonFileChooser files;
+};
+
+}  // namespace
+}  // namespace quorin::test
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
+    quorin::test::Look look;
+    return look.Run(commandLine);
+}
