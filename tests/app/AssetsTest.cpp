@@ -77,7 +77,7 @@ TEST(Assets, AnimationControlOpensAndPlaysTheSearchAnimation) {
     INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_ANIMATE_CLASS};
     ASSERT_TRUE(InitCommonControlsEx(&controls));
     const UniqueWindow player(
-        CreateWindowExW(0, ANIMATE_CLASSW, L"", WS_POPUP | ACS_TRANSPARENT | ACS_CENTER, 0, 0, 272,
+        CreateWindowExW(0, ANIMATE_CLASSW, L"", WS_POPUP | ACS_TRANSPARENT | ACS_CENTER, 0, 0, 96,
                         60, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr));
     ASSERT_TRUE(player);
     const std::wstring file = Widen(JoinPath(ExecutableFolder(), "findfile.avi"));

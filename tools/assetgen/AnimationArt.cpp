@@ -26,10 +26,10 @@ constexpr Color kHandle = Rgb(0x2A3340);
 constexpr Color kGlassTint = Rgb(0xBFDFFF, 0.18);
 constexpr Color kGlint = Rgb(0xFFFFFF, 0.65);
 
-constexpr std::array<double, 3> kFolderCentres = {56, 136, 216};
+constexpr std::array<double, 1> kFolderCentres = {48};
 constexpr double kFolderBottom = 50;
 constexpr double kZoom = 1.5;
-constexpr double kSweep = 80;
+constexpr double kSweep = 24;
 constexpr int kSamples = 4;
 
 Color Paint(bool inside, Color paint, Color under) {
@@ -117,7 +117,7 @@ std::vector<Image> DrawSearchAnimation() {
     for (int f = 0; f < kAnimationFrames; ++f) {
         const double phase = 2 * std::numbers::pi * f / kAnimationFrames;
         Magnifier lens;
-        lens.centre = {kFolderCentres[1] + kSweep * std::sin(phase), 27 + 3 * std::sin(2 * phase)};
+        lens.centre = {kFolderCentres[0] + kSweep * std::sin(phase), 27 + 3 * std::sin(2 * phase)};
         lens.radius = 16;
         lens.rimWidth = 3.5;
         lens.handleLength = 13;
