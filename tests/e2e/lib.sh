@@ -53,18 +53,72 @@ start_program() {
     xdotool mousemove 640 200
 }
 
-# Waits up to $1 seconds for the command after it to succeed; fails with $2 otherwise.
-wait_until() {
-    local seconds=$1 what=$2
-    shift 2
+# Polls the command after $1 (seconds) until it succeeds; fails (returns 1) when time runs out.
+poll() {
+    local seconds=$1
+    shift
     for _ in $(seq "$((seconds * 4))"); do
         "$@" && return 0
         sleep 0.25
     done
-    fail "$what"
+    return 1
+}
+
+# Waits up to $1 seconds for the command after it to succeed; fails with $2 otherwise.
+wait_until() {
+    local seconds=$1 what=$2
+    shift 2
+    poll "$seconds" "$@" || fail "$what"
 }
 
 window_shown() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
+
+# Wine gives the X input focus to the X window of the active window, so this tells whether keys
+# typed now reach the window titled $1.
+has_focus() {
+    local id
+    id=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -1)
+    [ -n "$id" ] && [ "$(xdotool getwindowfocus 2>/dev/null)" = "$id" ]
+}
+
+# Clicks at X Y until the window titled TITLE has the focus: under load Wine can show a window
+# without making it active, and keys typed then go elsewhere.
+click_to_focus() {  # X Y TITLE
+    for _ in $(seq 10); do
+        xdotool mousemove "$1" "$2" click 1
+        poll 2 has_focus "$3" && return 0
+    done
+    fail "a click at $1, $2 did not give \"$3\" the focus"
+}
+
+# The main window's word box: the colour inside it, and the dark pixels of its first 100 (a caret
+# alone makes up to 13 of them, a short word over 60).
+pixel() {
+    import -display "$DISPLAY" -window root -crop "1x1+$1+$2" txt:- | tail -1 | awk '{print $3}'
+}
+word_box_ink() {
+    import -display "$DISPLAY" -window root -crop 100x18+536+396 png:- |
+        convert png:- -colorspace gray -threshold 50% -negate -format '%[fx:round(mean*w*h)]' info:
+}
+# White where the box is: the Go panel is up, not the progress panel of a build still ending.
+word_box_shown() { [[ "$(pixel 620 405)" == "#FFFFFF"* ]]; }
+word_box_empty() { [ "$(word_box_ink)" -lt 30 ]; }
+word_box_filled() { [ "$(word_box_ink)" -ge 30 ]; }
+
+# Types WORD into the main window's word box, once the box is shown and focused, and checks that
+# it arrived; emptied first, so that a word left from before cannot pass for it. Selecting all
+# and typing again is harmless, so a word that did not arrive is typed once more.
+type_word() {  # WORD
+    wait_until 30 "the main window shows no word box" word_box_shown
+    for _ in 1 2 3; do
+        click_to_focus 620 405 '^Quorin$'
+        xdotool key ctrl+a BackSpace
+        poll 5 word_box_empty || continue
+        xdotool type --delay 100 "$1"
+        poll 5 word_box_filled && return 0
+    done
+    fail "the word \"$1\" did not arrive in the word box"
+}
 
 # The "Missing index" question of a start without an index.
 question_shown() { window_shown '^Missing index$'; }
@@ -88,12 +142,13 @@ answer_missing_index() {
 # After "Missing index" was answered Yes: the first build.
 wait_for_index() { wait_until 120 "no index.txt after answering Yes" test -f "$program/index.txt"; }
 
-# Ends the program through its Exit tab and waits for it to be gone.
+# Ends the program through its Exit tab and waits for it to be gone; a click that came while the
+# window was busy is given again.
+program_gone() { ! kill -0 "$desktop" 2>/dev/null; }
 exit_program() {
-    click 803 379
-    for _ in $(seq 30); do
-        kill -0 "$desktop" 2>/dev/null || break
-        sleep 1
+    for _ in 1 2 3; do
+        xdotool mousemove 803 379 click 1
+        poll 20 program_gone && return 0
     done
-    ! kill -0 "$desktop" 2>/dev/null || fail "the Exit tab did not end the program"
+    fail "the Exit tab did not end the program"
 }

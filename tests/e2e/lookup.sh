@@ -38,12 +38,9 @@ wine reg add 'HKCR\QuorinLookupTest\DefaultIcon' /ve /d '%SystemRoot%\system32\n
     /f >/dev/null
 wineserver -w
 
-# The main window's word box, emptied and given a word, then Go through Enter.
+# The word in the main window's word box, then Go through Enter.
 go() {
-    click 620 405
-    xdotool key ctrl+a BackSpace
-    xdotool type --delay 100 "$1"
-    sleep 0.5
+    type_word "$1"
     xdotool key Return
 }
 opened() { [ -s "$marker" ] && grep -qF "$1" "$marker"; }
@@ -60,7 +57,6 @@ grep -q 'alpha report.qzo' "$program/index.txt" || fail "index.txt misses alpha 
 # Matches come in index order, so the first row is the first of the two in index.txt.
 first=$(tr -d '\r' <"$program/index.txt" | grep -m1 -E '^alpha (report|notes)\.qzo$') ||
     fail "index.txt misses the alpha files"
-sleep 2
 
 go beta
 wait_until 20 "one match did not open beta plan.qzo" opened 'beta plan.qzo'

@@ -41,12 +41,10 @@ shot main-progress
 wait_for_index
 head -1 "$program/index.txt" | grep -Eq '^[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9:]{8}' || fail "index.txt has no date"
 grep -q 'notes17.txt' "$program/index.txt" || fail "index.txt misses a file of the tree"
-sleep 2
+wait_until 30 "the progress panel stayed after the build" word_box_shown
 shot main-go
 
-click 620 405
-xdotool type --delay 200 no
-sleep 1
+type_word no
 shot completion
 xdotool key ctrl+a BackSpace
 click 502 379
