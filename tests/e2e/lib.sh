@@ -21,13 +21,40 @@ fail() {
 shot() { import -display "$DISPLAY" -window root "$shots/$1.png"; }
 stop() { wineserver -k 2>/dev/null || true; }
 
-# The main window is centred on the 1280 x 800 desktop; these are its tabs, its word box and the
-# tray icon.
-click() {
-    xdotool mousemove "$1" "$2" click "${3:-1}"
-    sleep 1.5
+# The main window is centred on the 1280 x 800 desktop: its tabs are at y 379, its word box at
+# 620, 405, and the tray icon at 1270, 790.
+main_area=380x120+450+340
+crop_main() { convert "$shots/$1.png" -crop "$main_area" +repage "$shots/$1.png"; }
+# The start of the panel's first line, left of the word box and its caret: each tab shows
+# another text there.
+panel_start=70x14+460+398
+
+# A checksum of the screen area WxH+X+Y as it shows now.
+area_sum() { import -display "$DISPLAY" -window root -crop "$1" rgb:- | md5sum; }
+
+# Waits (up to 5 s, without failing: a blinking caret never holds still) until AREA shows the
+# same for half a second, so that a screenshot catches a window painted.
+settled() {  # AREA
+    local last now
+    last=$(area_sum "$1")
+    for _ in $(seq 10); do
+        sleep 0.5
+        now=$(area_sum "$1")
+        [ "$now" = "$last" ] && return 0
+        last=$now
+    done
 }
-crop_main() { convert "$shots/$1.png" -crop 380x120+450+340 +repage "$shots/$1.png"; }
+
+# Clicks at X Y with BUTTON and waits until the screen area AREA shows the click's effect (a tab
+# chosen, a box checked, a menu shown) and has settled.
+click_and_wait() {  # X Y AREA [BUTTON]
+    local before
+    before=$(area_sum "$3")
+    xdotool mousemove "$1" "$2" click "${4:-1}"
+    wait_until 10 "a click at $1, $2 changed nothing in $3" area_changed "$3" "$before"
+    settled "$3"
+}
+area_changed() { [ "$(area_sum "$1")" != "$2" ]; }
 
 # A fresh program folder holding the program, no settings of an earlier run, and the prefix made
 # on first use.
