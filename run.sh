@@ -44,11 +44,13 @@ wait_for() {  # SECONDS WINDOW_NAME...
 # Nobody can answer on a virtual display: a start without an index asks "Missing index", and
 # gets Yes (clicked: under load Wine can leave the box inactive, where keys do not reach it).
 answer_first_start() {
-    [ ! -f "$run/index.txt" ] && wait_for 60 '^Missing index$' || return 0
     for _ in $(seq 10); do
         shown '^Missing index$' || return 0
         xdotool mousemove 606 432 click 1
-        sleep 3
+        for __ in $(seq 12); do
+            shown '^Missing index$' || return 0
+            sleep 0.25
+        done
     done
 }
 
@@ -60,10 +62,19 @@ wine=$!
 
 if [ -n "$virtual" ]; then
     xdotool mousemove 640 200
-    wait_for 60 '^Missing index$' '^Quorin$' || echo "Quorin showed no window within 60 s." >&2
+    if [ -f "$run/index.txt" ]; then
+        # With an index the program starts in the notification area; its icon shows the window.
+        for _ in $(seq 30); do
+            xdotool mousemove 1270 790 click 1
+            wait_for 2 '^Quorin$' && break
+        done
+    else
+        wait_for 60 '^Missing index$' || echo "Quorin asked nothing within 60 s." >&2
+    fi
     import -display "$DISPLAY" -window root "$run/screenshot-start.png"
     answer_first_start
     wait_for 120 '^Quorin$' || echo "The main window did not show within 120 s." >&2
+    for _ in $(seq 240); do [ -f "$run/index.txt" ] && break; sleep 0.5; done
     import -display "$DISPLAY" -window root "$run/screenshot.png"
     echo "Screenshots: $run/screenshot-start.png and $run/screenshot.png"
     echo "Quorin keeps running on $DISPLAY; press Ctrl+C to stop it."
