@@ -4,6 +4,11 @@
 # starts a virtual one (Xvfb), says which, and saves screenshots of it.
 set -euo pipefail
 cd "$(dirname "$0")"
+if [ -z "${DISPLAY:-}" ]; then
+    # Xvfb picks a free display number itself; this script starts again on it.
+    exec scripts/with-xvfb env QUORIN_RUN_VIRTUAL=1 "$0" "$@"
+fi
+virtual=${QUORIN_RUN_VIRTUAL:-}
 root=${QUORIN_BUILD_ROOT:-build}
 scripts/install-deps
 QUORIN_BUILD_ROOT=$root scripts/build win
@@ -15,24 +20,39 @@ for file in quorin.exe findfile.avi qn.HLP; do
 done
 prefix=$(cd "$run" && pwd)/wineprefix
 
-xvfb=""
-cleanup() {
-    WINEPREFIX=$prefix wineserver -k 2>/dev/null || true
-    if [ -n "$xvfb" ]; then kill "$xvfb" 2>/dev/null || true; fi
-}
-trap cleanup EXIT INT TERM
+stop() { WINEPREFIX=$prefix wineserver -k 2>/dev/null || true; }
+trap stop EXIT
+trap 'exit 130' INT TERM
 
-if [ -z "${DISPLAY:-}" ]; then
-    n=90
-    while [ -e /tmp/.X11-unix/X$n ] || [ -e /tmp/.X$n-lock ]; do n=$((n + 1)); done
-    Xvfb :$n -screen 0 1280x800x24 -nolisten tcp >/dev/null 2>&1 &
-    xvfb=$!
-    for _ in $(seq 50); do [ -e /tmp/.X11-unix/X$n ] && break; sleep 0.1; done
-    export DISPLAY=:$n
+if [ -n "$virtual" ]; then
     echo "No display is set: Quorin runs on the virtual display $DISPLAY."
     echo "Look at it with: import -display $DISPLAY -window root shot.png"
     echo "(or connect a VNC server such as x11vnc -display $DISPLAY)."
 fi
+
+shown() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
+wait_for() {  # SECONDS WINDOW_NAME...
+    local tries=$(($1 * 4)) name
+    shift
+    for _ in $(seq "$tries"); do
+        for name in "$@"; do shown "$name" && return 0; done
+        sleep 0.25
+    done
+    return 1
+}
+
+# Nobody can answer on a virtual display: a start without an index asks "Missing index", and
+# gets Yes (clicked: under load Wine can leave the box inactive, where keys do not reach it).
+answer_first_start() {
+    for _ in $(seq 10); do
+        shown '^Missing index$' || return 0
+        xdotool mousemove 606 432 click 1
+        for __ in $(seq 12); do
+            shown '^Missing index$' || return 0
+            sleep 0.25
+        done
+    done
+}
 
 echo "Starting Quorin from $run (Wine prefix $prefix)."
 scripts/wine-run --prefix "$prefix" cmd /c exit >/dev/null 2>&1 || true  # prepares a new prefix
@@ -40,18 +60,22 @@ exe=$(cd "$run" && pwd)/quorin.exe
 scripts/wine-run --prefix "$prefix" explorer /desktop=quorin,1280x800 "Z:${exe//\//\\}" &
 wine=$!
 
-if [ -n "$xvfb" ]; then
-    # Nobody can answer on a virtual display: say Yes to building the first index (Enter is the
-    # question's default; in the main window an empty word box makes Enter do nothing).
-    xdotool mousemove 640 200 2>/dev/null || true
-    sleep 10
-    import -display "$DISPLAY" -window root "$run/screenshot-start.png" 2>/dev/null || true
-    for _ in $(seq 10); do
-        [ -f "$run/index.txt" ] && break
-        xdotool key Return 2>/dev/null || true
-        sleep 6
-    done
-    import -display "$DISPLAY" -window root "$run/screenshot.png" 2>/dev/null || true
+if [ -n "$virtual" ]; then
+    xdotool mousemove 640 200
+    if [ -f "$run/index.txt" ]; then
+        # With an index the program starts in the notification area; its icon shows the window.
+        for _ in $(seq 30); do
+            xdotool mousemove 1270 790 click 1
+            wait_for 2 '^Quorin$' && break
+        done
+    else
+        wait_for 60 '^Missing index$' || echo "Quorin asked nothing within 60 s." >&2
+    fi
+    import -display "$DISPLAY" -window root "$run/screenshot-start.png"
+    answer_first_start
+    wait_for 120 '^Quorin$' || echo "The main window did not show within 120 s." >&2
+    for _ in $(seq 240); do [ -f "$run/index.txt" ] && break; sleep 0.5; done
+    import -display "$DISPLAY" -window root "$run/screenshot.png"
     echo "Screenshots: $run/screenshot-start.png and $run/screenshot.png"
     echo "Quorin keeps running on $DISPLAY; press Ctrl+C to stop it."
 fi

@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# Every test: installs what is missing, builds both builds, runs the native tests and,
-# under Wine on a private X display, the Windows ones.
+# Every test: installs what is missing, checks the formatting, builds both builds, runs the
+# native tests, fuzzes briefly and runs, under Wine on a private X display, the Windows tests.
 set -euo pipefail
 cd "$(dirname "$0")"
 scripts/install-deps
+scripts/check-format
 scripts/build native
 scripts/build win
 (cd build/native && ctest --output-on-failure -j "$(nproc)")

@@ -21,13 +21,40 @@ fail() {
 shot() { import -display "$DISPLAY" -window root "$shots/$1.png"; }
 stop() { wineserver -k 2>/dev/null || true; }
 
-# The main window is centred on the 1280 x 800 desktop; these are its tabs, its word box and the
-# tray icon.
-click() {
-    xdotool mousemove "$1" "$2" click "${3:-1}"
-    sleep 1.5
+# The main window is centred on the 1280 x 800 desktop: its tabs are at y 379, its word box at
+# 620, 405, and the tray icon at 1270, 790.
+main_area=380x120+450+340
+crop_main() { convert "$shots/$1.png" -crop "$main_area" +repage "$shots/$1.png"; }
+# The start of the panel's first line, left of the word box and its caret: each tab shows
+# another text there.
+panel_start=70x14+460+398
+
+# A checksum of the screen area WxH+X+Y as it shows now.
+area_sum() { import -display "$DISPLAY" -window root -crop "$1" rgb:- | md5sum; }
+
+# Waits (up to 5 s, without failing: a blinking caret never holds still) until AREA shows the
+# same for half a second, so that a screenshot catches a window painted.
+settled() {  # AREA
+    local last now
+    last=$(area_sum "$1")
+    for _ in $(seq 10); do
+        sleep 0.5
+        now=$(area_sum "$1")
+        [ "$now" = "$last" ] && return 0
+        last=$now
+    done
 }
-crop_main() { convert "$shots/$1.png" -crop 380x120+450+340 +repage "$shots/$1.png"; }
+
+# Clicks at X Y with BUTTON and waits until the screen area AREA shows the click's effect (a tab
+# chosen, a box checked, a menu shown) and has settled.
+click_and_wait() {  # X Y AREA [BUTTON]
+    local before
+    before=$(area_sum "$3")
+    xdotool mousemove "$1" "$2" click "${4:-1}"
+    wait_until 10 "a click at $1, $2 changed nothing in $3" area_changed "$3" "$before"
+    settled "$3"
+}
+area_changed() { [ "$(area_sum "$1")" != "$2" ]; }
 
 # A fresh program folder holding the program, no settings of an earlier run, and the prefix made
 # on first use.
@@ -53,18 +80,72 @@ start_program() {
     xdotool mousemove 640 200
 }
 
-# Waits up to $1 seconds for the command after it to succeed; fails with $2 otherwise.
-wait_until() {
-    local seconds=$1 what=$2
-    shift 2
+# Polls the command after $1 (seconds) until it succeeds; fails (returns 1) when time runs out.
+poll() {
+    local seconds=$1
+    shift
     for _ in $(seq "$((seconds * 4))"); do
         "$@" && return 0
         sleep 0.25
     done
-    fail "$what"
+    return 1
+}
+
+# Waits up to $1 seconds for the command after it to succeed; fails with $2 otherwise.
+wait_until() {
+    local seconds=$1 what=$2
+    shift 2
+    poll "$seconds" "$@" || fail "$what"
 }
 
 window_shown() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
+
+# Wine gives the X input focus to the X window of the active window, so this tells whether keys
+# typed now reach the window titled $1.
+has_focus() {
+    local id
+    id=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -1)
+    [ -n "$id" ] && [ "$(xdotool getwindowfocus 2>/dev/null)" = "$id" ]
+}
+
+# Clicks at X Y until the window titled TITLE has the focus: under load Wine can show a window
+# without making it active, and keys typed then go elsewhere.
+click_to_focus() {  # X Y TITLE
+    for _ in $(seq 10); do
+        xdotool mousemove "$1" "$2" click 1
+        poll 2 has_focus "$3" && return 0
+    done
+    fail "a click at $1, $2 did not give \"$3\" the focus"
+}
+
+# The main window's word box: the colour inside it, and the dark pixels of its first 100 (a caret
+# alone makes up to 13 of them, a short word over 60).
+pixel() {
+    import -display "$DISPLAY" -window root -crop "1x1+$1+$2" txt:- | tail -1 | awk '{print $3}'
+}
+word_box_ink() {
+    import -display "$DISPLAY" -window root -crop 100x18+536+396 png:- |
+        convert png:- -colorspace gray -threshold 50% -negate -format '%[fx:round(mean*w*h)]' info:
+}
+# White where the box is: the Go panel is up, not the progress panel of a build still ending.
+word_box_shown() { [[ "$(pixel 620 405)" == "#FFFFFF"* ]]; }
+word_box_empty() { [ "$(word_box_ink)" -lt 30 ]; }
+word_box_filled() { [ "$(word_box_ink)" -ge 30 ]; }
+
+# Types WORD into the main window's word box, once the box is shown and focused, and checks that
+# it arrived; emptied first, so that a word left from before cannot pass for it. Selecting all
+# and typing again is harmless, so a word that did not arrive is typed once more.
+type_word() {  # WORD
+    wait_until 30 "the main window shows no word box" word_box_shown
+    for _ in 1 2 3; do
+        click_to_focus 620 405 '^Quorin$'
+        xdotool key ctrl+a BackSpace
+        poll 5 word_box_empty || continue
+        xdotool type --delay 100 "$1"
+        poll 5 word_box_filled && return 0
+    done
+    fail "the word \"$1\" did not arrive in the word box"
+}
 
 # The "Missing index" question of a start without an index.
 question_shown() { window_shown '^Missing index$'; }
@@ -88,12 +169,13 @@ answer_missing_index() {
 # After "Missing index" was answered Yes: the first build.
 wait_for_index() { wait_until 120 "no index.txt after answering Yes" test -f "$program/index.txt"; }
 
-# Ends the program through its Exit tab and waits for it to be gone.
+# Ends the program through its Exit tab and waits for it to be gone; a click that came while the
+# window was busy is given again.
+program_gone() { ! kill -0 "$desktop" 2>/dev/null; }
 exit_program() {
-    click 803 379
-    for _ in $(seq 30); do
-        kill -0 "$desktop" 2>/dev/null || break
-        sleep 1
+    for _ in 1 2 3; do
+        xdotool mousemove 803 379 click 1
+        poll 20 program_gone && return 0
     done
-    ! kill -0 "$desktop" 2>/dev/null || fail "the Exit tab did not end the program"
+    fail "the Exit tab did not end the program"
 }

@@ -38,12 +38,9 @@ wine reg add 'HKCR\QuorinLookupTest\DefaultIcon' /ve /d '%SystemRoot%\system32\n
     /f >/dev/null
 wineserver -w
 
-# The main window's word box, emptied and given a word, then Go through Enter.
+# The word in the main window's word box, then Go through Enter.
 go() {
-    click 620 405
-    xdotool key ctrl+a BackSpace
-    xdotool type --delay 100 "$1"
-    sleep 0.5
+    type_word "$1"
     xdotool key Return
 }
 opened() { [ -s "$marker" ] && grep -qF "$1" "$marker"; }
@@ -60,7 +57,6 @@ grep -q 'alpha report.qzo' "$program/index.txt" || fail "index.txt misses alpha 
 # Matches come in index order, so the first row is the first of the two in index.txt.
 first=$(tr -d '\r' <"$program/index.txt" | grep -m1 -E '^alpha (report|notes)\.qzo$') ||
     fail "index.txt misses the alpha files"
-sleep 2
 
 go beta
 wait_until 20 "one match did not open beta plan.qzo" opened 'beta plan.qzo'
@@ -73,14 +69,14 @@ rm -f "$marker"
 
 go alpha
 wait_until 20 "two matches showed no Matches window" matches_shown
-sleep 1
+settled 480x320+100+100
 shot matches-live
 convert "$shots/matches-live.png" -crop 480x320+100+100 +repage "$shots/matches-live.png"
 [ ! -e "$marker" ] || fail "two matches opened a file without a choice"
 wait_until 10 "the main window stayed up beside the Matches window" main_hidden
 # "Always associate this word with this item", then Open for the first row, selected on showing.
-click 118 397
-click 528 397
+click_and_wait 118 397 150x18+108+388
+xdotool mousemove 528 397 click 1
 wait_until 20 "Open did not open $first" opened "$first"
 wait_until 10 "the Matches window stayed after Open" matches_gone
 tr -d '\r' <"$program/words.txt" >"$work/words.lf"
@@ -90,7 +86,7 @@ grep -Fqx "$first" "$work/words.lf" || fail "words.txt does not name $first"
 rm -f "$marker"
 
 wait_until 10 "the main window came back when the Matches window opened a file" main_hidden
-click 1270 790
+xdotool mousemove 1270 790 click 1
 wait_until 10 "a tray click did not bring the main window back" window_shown '^Quorin$'
 go alpha
 wait_until 20 "the assigned word did not open $first" opened "$first"

@@ -32,7 +32,7 @@ printf 'Notepad\r\nC:\\e2e-tree\\dir1\r\nnotes1.txt\r\nNotes\r\nC:\\e2e-tree\\di
 
 start_program
 wait_for_question
-sleep 2
+settled 400x200+440+300
 shot start
 [ ! -f "$program/index.txt" ] || fail "an index before the question was answered"
 
@@ -41,24 +41,27 @@ shot main-progress
 wait_for_index
 head -1 "$program/index.txt" | grep -Eq '^[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9:]{8}' || fail "index.txt has no date"
 grep -q 'notes17.txt' "$program/index.txt" || fail "index.txt misses a file of the tree"
-sleep 2
+wait_until 30 "the progress panel stayed after the build" word_box_shown
 shot main-go
 
-click 620 405
-xdotool type --delay 200 no
-sleep 1
+type_word no
 shot completion
 xdotool key ctrl+a BackSpace
-click 502 379
+click_and_wait 502 379 "$panel_start"
+settled "$main_area"
 shot main-index
-click 548 379
+click_and_wait 548 379 "$panel_start"
+settled "$main_area"
 shot main-options
-click 589 379
+click_and_wait 589 379 "$panel_start"
+settled "$main_area"
 shot main-help
-click 1270 790 3
+tray_menu_area=320x160+960+640
+click_and_wait 1270 790 "$tray_menu_area" 3
 shot tray-menu
+before=$(area_sum "$tray_menu_area")
 xdotool key Escape
-sleep 1
+wait_until 10 "Escape left the tray menu open" area_changed "$tray_menu_area" "$before"
 exit_program
 wine reg query 'HKCU\Software\Quorin\Main' /v StartX >/dev/null 2>&1 || fail "the exit saved no position"
 wine reg query 'HKCU\Software\Quorin\Main' /v Path >/dev/null 2>&1 || fail "start-up recorded no path"
