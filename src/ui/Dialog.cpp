@@ -73,8 +73,7 @@ LRESULT Dialog::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_INITDIALOG:
             ApplyFont(WindowDpi(hwnd()));
-            OnInit();
-            return TRUE;  // the focus goes to the first control that takes it
+            return OnInit() ? TRUE : FALSE;
         case WM_COMMAND:
             if (HIWORD(wParam) == BN_CLICKED && LOWORD(wParam) == IDOK) {
                 OnOk();

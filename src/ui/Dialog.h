@@ -32,8 +32,9 @@ class Dialog : public Window {
 
     HWND Item(int id) const { return GetDlgItem(hwnd(), id); }
 
-    // WM_INITDIALOG, after the font is set.
-    virtual void OnInit() {}
+    // WM_INITDIALOG, after the font is set. True lets the focus go to the first control that
+    // takes it; false when OnInit put the focus somewhere itself.
+    virtual bool OnInit() { return true; }
     // The OK button or Enter, and the Cancel button, Escape or the close box. Both close the
     // dialog unless overridden.
     virtual void OnOk() { EndDialog(IDOK); }

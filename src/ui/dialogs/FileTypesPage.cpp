@@ -102,11 +102,27 @@ void FileTypesPage::lstFileTypes_Click(FileTypeList list) {
     if (suppressEvents_ || !lists_) {
         return;
     }
-    const HWND box = List(list);
-    for (size_t i = 0; i < lists_->Extensions().size(); ++i) {
-        lists_->Select(list, i, SendMessageW(box, LB_GETSEL, i, 0) > 0);
+    const std::vector<bool> shown = ListSelection(list);
+    for (size_t i = 0; i < shown.size(); ++i) {
+        lists_->Select(list, i, shown[i]);
     }
     workingFilter_ = lists_->Filter(list);
+}
+
+void FileTypesPage::CatchUp() {
+    const FileTypeList list = IncludeOnly() ? FileTypeList::Include : FileTypeList::Exclude;
+    if (lists_ && ListSelection(list) != lists_->Selection(list)) {
+        lstFileTypes_Click(list);
+    }
+}
+
+std::vector<bool> FileTypesPage::ListSelection(FileTypeList list) const {
+    std::vector<bool> selected;
+    const HWND box = List(list);
+    for (size_t i = 0; i < lists_->Extensions().size(); ++i) {
+        selected.push_back(SendMessageW(box, LB_GETSEL, i, 0) > 0);
+    }
+    return selected;
 }
 
 void FileTypesPage::ShowSelection(FileTypeList list) const {

@@ -24,6 +24,9 @@ class FileTypesPage final : public OptionsPage {
     bool IncludeOnly() const;
     // The focus into the list of the mode chosen, when the page is shown.
     void FocusList() const;
+    // Takes a change of selection the list did not report as a click (the keyboard's Space under
+    // some list implementations), so that OK stores what the list shows.
+    void CatchUp();
 
     void OnCommand(int id, int code, HWND control) override;
 
@@ -35,6 +38,7 @@ class FileTypesPage final : public OptionsPage {
     void optFileTypes_Click(FileTypeList chosen);
     void lstFileTypes_Click(FileTypeList list);
     void ShowSelection(FileTypeList list) const;
+    std::vector<bool> ListSelection(FileTypeList list) const;
 
     ExtensionSource extensions_;
     std::optional<FileTypeLists> lists_;

@@ -16,11 +16,12 @@ namespace quorin {
 frmNewWord::frmNewWord(NewWordServices services)
     : Dialog(IDD_NEWWORD), services_(std::move(services)) {}
 
-void frmNewWord::OnInit() {
+bool frmNewWord::OnInit() {
     txtWord = Item(IDC_NEWWORD_WORD);
     txtFilename = Item(IDC_NEWWORD_FILENAME);
     SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(services_.icon));
     SendMessageW(hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(services_.icon));
+    return true;
 }
 
 void frmNewWord::OnCommand(int id, int code, HWND control) {

@@ -27,7 +27,7 @@ class frmNewWord final : public Dialog {
     explicit frmNewWord(NewWordServices services);
 
   protected:
-    void OnInit() override;
+    bool OnInit() override;
     void OnOk() override { cmdOK_Click(); }
     void OnCommand(int id, int code, HWND control) override;
     HBRUSH OnControlColor(HWND control, HDC dc) override;

@@ -42,7 +42,7 @@ void frmOptions::Panel(int page) {
     }
 }
 
-void frmOptions::OnInit() {
+bool frmOptions::OnInit() {
     SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(services_.icon));
     TabStrip1 = Item(IDC_OPTIONS_TABS);
     for (int i = 0; i < kOptionsPageCount; ++i) {
@@ -55,6 +55,7 @@ void frmOptions::OnInit() {
     LayOutPages();
     Form_Load();
     Panel(currentPage_);
+    return currentPage_ != 1;  // the File Types page puts the focus into its list
 }
 
 // The pages lie in the tab control's display area, right after it in the tab order.
@@ -142,6 +143,7 @@ void frmOptions::cmdOK_Click() {
     if (GetFocus() == generalPage_.Interval()) {
         generalPage_.txtInterval_LostFocus();
     }
+    fileTypesPage_.CatchUp();
     if (fileTypesPage_.WorkingFilter().find_first_not_of(' ') == std::string::npos) {
         switch (services_.prompter.Ask(kNoFilterTitle, kNoFilterText, PromptButtons::YesNoCancel,
                                        PromptIcon::Question)) {

@@ -46,7 +46,7 @@ class frmOptions final : public Dialog {
     int CurrentPage() const { return currentPage_; }
 
   protected:
-    void OnInit() override;
+    bool OnInit() override;
     void OnOk() override { cmdOK_Click(); }
     void OnCommand(int id, int code, HWND control) override;
     LRESULT OnNotify(const NMHDR& header) override;

@@ -1,0 +1,109 @@
+#!/usr/bin/env bash
+# The Options dialog end to end: opened from the main window's Options panel, the file-type
+# filter switched to a test type only, OK, "Update Index Now", and a Go on a file of that type
+# opens it; a word added through Add New Word stays in words.txt after the Options dialog is
+# cancelled, and is gone once deleted with Yes.
+# Usage: options.sh EXE_FOLDER WORK_FOLDER [SCREENSHOT_FOLDER]
+# Needs DISPLAY (an Xvfb of 1280x800, see scripts/with-xvfb); uses its own Wine prefix in
+# WORK_FOLDER.
+set -euo pipefail
+exe_folder=$1
+work=$2
+shots=${3:-$work/screenshots}
+. "$(dirname "$0")/lib.sh"
+prepare_program
+
+tree=$work/tree
+marker=$work/marker.txt
+rm -rf "$tree" "$marker"
+mkdir -p "$tree"
+touch "$tree/report.qzp" "$tree/notes.txt"
+
+set_setting Main Configured 1
+set_setting Index DriveCount 1
+set_setting Index Drive0 "$(windows_path "$tree")"
+set_setting Index Filter ''
+set_setting Index FilterIsInclude True
+wine reg add 'HKCR\.qzp' /ve /d QuorinOptionsTest /f >/dev/null
+wine reg add 'HKCR\QuorinOptionsTest\shell\open\command' /ve \
+    /d "cmd /c echo %1> $(windows_path "$marker")" /f >/dev/null
+wineserver -w
+
+setting() {  # NAME: the value of section Index as the registry holds it
+    wine reg query 'HKCU\Software\Quorin\Index' /v "$1" 2>/dev/null | tr -d '\r' |
+        sed -n "s/^    $1    REG_SZ    //p"
+}
+words() { tr -d '\r' <"$program/words.txt" 2>/dev/null || true; }
+opened() { [ -s "$marker" ] && grep -qF "$1" "$marker"; }
+options_shown() { window_shown '^Options$'; }
+options_gone() { ! options_shown; }
+new_word_shown() { window_shown '^Add New Word$'; }
+
+# The Options panel's link at Y opens the dialog; keys go to it once it has the focus.
+open_options() {  # LINK_Y
+    click_and_wait 550 379 "$main_area"
+    xdotool mousemove 525 "$1" click 1
+    wait_until 20 "the Options link at $1 opened no dialog" options_shown
+    wait_until 10 "the Options dialog did not take the focus" has_focus '^Options$'
+}
+
+start_program
+wait_for_question
+answer_missing_index
+wait_for_index
+
+# File Types: the dialog opens at the page with the focus in the include list, which holds the
+# classes root's file types in the registry's order; the arrow keys go to the test type and Space
+# selects it.
+position=$(wine reg query HKCR 2>/dev/null | tr -d '\r' | sed -n 's/^HKEY_CLASSES_ROOT\\//p' |
+    grep -E '^\.[^.*,]*$' | grep -nix '.qzp' | cut -d: -f1)
+[ -n "$position" ] || fail "the classes root does not list .qzp"
+open_options 416
+settled 500x400+390+200
+shot options-live
+xdotool key Home
+for _ in $(seq 2 "$position"); do xdotool key Down; done
+xdotool key space Return
+wait_until 20 "OK did not close the Options dialog" options_gone
+[ "$(setting Filter)" = ".QZP " ] || fail "Filter is \"$(setting Filter)\", not \".QZP \""
+[ "$(setting FilterIsInclude)" = True ] || fail "FilterIsInclude is not True"
+[ "$(setting DriveCount)" = 0 ] || [ "$(setting DriveCount)" = 1 ] || fail "no DriveCount written"
+
+# The next build takes the new filter; its one match opens at once.
+set_setting Index DriveCount 1
+set_setting Index Drive0 "$(windows_path "$tree")"
+rm -f "$program/index.txt.old"
+cp "$program/index.txt" "$program/index.txt.old"
+click_and_wait 502 379 "$main_area"
+xdotool mousemove 480 435 click 1
+wait_until 60 "Update Index Now built no new index" \
+    bash -c "! cmp -s '$program/index.txt' '$program/index.txt.old' && grep -q 'report.qzp' '$program/index.txt'"
+click_and_wait 472 379 "$main_area"
+type_word report
+xdotool key Return
+wait_until 20 "Go on report did not open report.qzp" opened 'report.qzp'
+
+# Words: Add New Word from the Words page (Alt+N), then Cancel the Options dialog.
+open_options 435
+xdotool key alt+n
+wait_until 20 "Add New Word did not open" new_word_shown
+wait_until 10 "Add New Word did not take the focus" has_focus '^Add New Word$'
+xdotool type --delay 50 plan
+xdotool key Tab
+xdotool type --delay 20 "$(windows_path "$tree")\\notes.txt"
+xdotool key Return
+wait_until 20 "OK did not close Add New Word" bash -c "! xdotool search --onlyvisible --name '^Add New Word\$' >/dev/null"
+xdotool key Escape
+wait_until 20 "Escape did not close the Options dialog" options_gone
+words | grep -qx plan || fail "words.txt holds no word plan after Cancel"
+
+# Delete it: the list takes the focus with Tab, Home selects the row, Alt+D asks, Enter is Yes.
+open_options 435
+xdotool key Tab Home alt+d
+wait_until 20 "Delete Word asked nothing" window_shown '^Confirm delete$'
+xdotool key Return
+wait_until 20 "the question stayed" bash -c "! xdotool search --onlyvisible --name '^Confirm delete\$' >/dev/null"
+! words | grep -qx plan || fail "words.txt still holds plan after Delete Word"
+xdotool key Escape
+wait_until 20 "Escape did not close the Options dialog" options_gone
+echo "PASS"
