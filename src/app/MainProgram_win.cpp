@@ -37,18 +37,19 @@ int RunQuorin() {
     ProgramHelp help(programFolder);
     LazyIndex index({settings, clock, prompter, events, programFolder});
     MainMatchesOpener matches(index, shell, settings, prompter);
+    const auto connect = [&prompter, &matches](frmMain& mainForm) {
+        prompter.SetOwner(mainForm.hwnd());
+        matches.SetAddWords([&mainForm] { mainForm.AddWords(); });
+        matches.SetIcon(
+            reinterpret_cast<HICON>(SendMessageW(mainForm.hwnd(), WM_GETICON, ICON_SMALL, 0)));
+    };
     Startup startup({settings, clock, prompter, shell, index, matches, options, help, programFolder,
-                     true, [] { PostQuitMessage(0); }});
+                     true, [] { PostQuitMessage(0); }, connect});
 
     const bool running = startup.Main();
     if (!running) {
         return 0;
     }
-    frmMain* mainForm = startup.MainForm();
-    prompter.SetOwner(mainForm->hwnd());
-    matches.SetAddWords([mainForm] { mainForm->AddWords(); });
-    matches.SetIcon(
-        reinterpret_cast<HICON>(SendMessageW(mainForm->hwnd(), WM_GETICON, ICON_SMALL, 0)));
     return MessagePump::Run();
 }
 

@@ -38,10 +38,12 @@ PromptAnswer AnswerOf(int result) {
 }  // namespace
 
 // A tray program asks while none of its windows may be in front (at start-up, or from the tray),
-// so the box takes the foreground itself rather than waiting grey behind other programs.
+// so the box takes the foreground itself rather than waiting grey behind other programs. An owner
+// that has gone (a start-up that failed after the main window was made) would make the box fail.
 PromptAnswer MessageBoxPrompter::Ask(std::string_view title, std::string_view text,
                                      PromptButtons buttons, PromptIcon icon) {
-    return AnswerOf(MessageBoxW(owner_, Widen(text).c_str(), Widen(title).c_str(),
+    HWND owner = IsWindow(owner_) ? owner_ : nullptr;
+    return AnswerOf(MessageBoxW(owner, Widen(text).c_str(), Widen(title).c_str(),
                                 StyleOf(buttons, icon) | MB_SETFOREGROUND));
 }
 
