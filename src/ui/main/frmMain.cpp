@@ -217,6 +217,9 @@ LRESULT frmMain::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             break;
         case WM_ENDSESSION:
             if (wParam != FALSE) {
+                // The process may end before a build below returns and lets the unload run.
+                Form_QueryUnload(false);
+                startPlace_.Save(services_.settings);
                 builds_.EndSession();
             }
             return 0;

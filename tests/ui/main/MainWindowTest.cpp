@@ -282,18 +282,23 @@ TEST_F(MainWindowTest, TheSessionEndingDuringABuildCancelsItAndUnloadsOnlyAfterI
     tree.WriteFile("docs/a.txt", "a");
     Load();
     const HWND window = Window();
+    SetWindowPos(window, nullptr, 150, 90, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     bool engineKept = false;
     int unloadsDuringBuild = -1;
+    std::string placeSavedAtOnce;
     events.onEvents = [&] {
         if (unloadsDuringBuild < 0) {
             SendMessageW(window, WM_ENDSESSION, TRUE, 0);
             engineKept = index.Exists() && index.Get().Indexing();
             unloadsDuringBuild = unloads;
+            placeSavedAtOnce = settings.Get("Main", "StartX", "");
         }
     };
     Build();
     EXPECT_TRUE(engineKept);
     EXPECT_EQ(unloadsDuringBuild, 0);
+    EXPECT_EQ(placeSavedAtOnce, std::to_string(PixelsToTwips(150, ScreenDpi())))
+        << "the process may end before the build returns";
     ASSERT_EQ(prompter.boxes.size(), 1u);
     EXPECT_EQ(prompter.boxes[0].title, "Update Index Cancelled");
     EXPECT_EQ(unloads, 1);
