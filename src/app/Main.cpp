@@ -38,6 +38,9 @@ bool Startup::Main() {
             MainServices{services_.settings, services_.clock, services_.prompter, services_.shell,
                          services_.index, tray_, services_.matches, services_.options,
                          services_.help, services_.onUnloaded});
+        if (services_.onMainLoaded) {
+            services_.onMainLoaded(*mainForm_);
+        }
         busy.reset();
         splash.Unload();
         return EnsureIndex();
@@ -65,19 +68,18 @@ void Startup::WriteMainSettings() {
 }
 
 bool Startup::EnsureIndex() {
-    clsIndex& index = services_.index.Get();
-    if (index.LastUpdated == 0) {
+    if (services_.index.Get().LastUpdated == 0) {
         if (services_.prompter.Ask("Missing index", kMissingIndexText, PromptButtons::YesNo,
                                    PromptIcon::Question) != PromptAnswer::Yes) {
             mainForm_->Unload();
             return false;
         }
-        {
-            const Hourglass busy;
-            mainForm_->Show();
-            index.CreateIndex(false, *mainForm_);
+        mainForm_->Show();
+        mainForm_->BuildIndex(false);
+        if (mainForm_->Unloaded()) {
+            return false;  // the Windows session ended during the build
         }
-        if (index.LastUpdated == 0) {
+        if (services_.index.Get().LastUpdated == 0) {
             mainForm_->Unload();
             return false;
         }

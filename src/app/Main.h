@@ -30,6 +30,10 @@ struct StartupServices {
     std::string programFolder;  // without a trailing separator
     bool showSplash = true;
     std::function<void()> onUnloaded;  // the main window has gone
+    // The main window has been made and is still hidden: what depends on it (the owner of
+    // message boxes, the Matches window's word list and icon) is connected here, before the
+    // start-up build can let the user reach it.
+    std::function<void(frmMain&)> onMainLoaded;
 };
 
 // The program's start: the splash window, the "Main" settings, the main window hidden in the

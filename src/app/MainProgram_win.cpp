@@ -36,14 +36,24 @@ int RunQuorin() {
     ProgramHelp help(programFolder);
     LazyIndex index({settings, clock, prompter, events, programFolder});
     MainMatchesOpener matches(index, shell, settings, prompter);
+<<<<<<< HEAD
     MainOptionsOpener options(index, settings, prompter, help);
+=======
+    const auto connect = [&prompter, &matches](frmMain& mainForm) {
+        prompter.SetOwner(mainForm.hwnd());
+        matches.SetAddWords([&mainForm] { mainForm.AddWords(); });
+        matches.SetIcon(
+            reinterpret_cast<HICON>(SendMessageW(mainForm.hwnd(), WM_GETICON, ICON_SMALL, 0)));
+    };
+>>>>>>> fixes
     Startup startup({settings, clock, prompter, shell, index, matches, options, help, programFolder,
-                     true, [] { PostQuitMessage(0); }});
+                     true, [] { PostQuitMessage(0); }, connect});
 
     const bool running = startup.Main();
     if (!running) {
         return 0;
     }
+<<<<<<< HEAD
     frmMain* mainForm = startup.MainForm();
     prompter.SetOwner(mainForm->hwnd());
     const auto icon =
@@ -53,6 +63,8 @@ int RunQuorin() {
     options.SetMainWindow(mainForm->hwnd());
     options.SetAddWords([mainForm] { mainForm->AddWords(); });
     options.SetIcon(icon);
+=======
+>>>>>>> fixes
     return MessagePump::Run();
 }
 

@@ -48,11 +48,15 @@ void clsIndex::CreateIndex(bool Silent, ProgressWindow& ParentForm) {
     const IndexingFlag flag(indexing_);
     ParentForm.BeginIndexing(ProgramFile(kAnimationFile));
     try {
-        if (WalkDrives(Silent, ParentForm)) {
-            SaveIndex(ParentForm);
+        // The walk fills tables of its own and the engine takes them only when it completes:
+        // while the build yields, every folder number handed out before (the words', a list of
+        // matches') still means its folder, so a word saved then is written with its real one.
+        FolderTable folders;
+        auto items = std::make_shared<IndexItems>();
+        if (WalkDrives(Silent, ParentForm, folders, *items)) {
+            SaveIndex(ParentForm, std::move(folders), std::move(items));
         } else {
             ReportCancel();
-            ReadIndex();
         }
     } catch (...) {
         ParentForm.EndIndexing();
@@ -61,20 +65,17 @@ void clsIndex::CreateIndex(bool Silent, ProgressWindow& ParentForm) {
     ParentForm.EndIndexing();
 }
 
-bool clsIndex::WalkDrives(bool Silent, ProgressWindow& ParentForm) {
-    // A new collection, so that lists of matches from the old index stay whole.
-    auto items = std::make_shared<IndexItems>();
-    items_ = items;
-    folders_.Clear();
+bool clsIndex::WalkDrives(bool Silent, ProgressWindow& ParentForm, FolderTable& folders,
+                          IndexItems& items) {
     for (int32_t drive = 0; drive < drives_.count; ++drive) {
-        folders_.Append(drives_.slots[static_cast<size_t>(drive)]);
+        folders.Append(drives_.slots[static_cast<size_t>(drive)]);
     }
     cancelled_ = false;
     FolderWalker walker(
-        WalkOptions{Filter, FilterIsInclude, IncludeSystemFolders, IgnoreTempFolders}, folders_,
-        *items);
+        WalkOptions{Filter, FilterIsInclude, IncludeSystemFolders, IgnoreTempFolders}, folders,
+        items);
     // The table is the queue: walking it in slot order while it grows is breadth-first.
-    for (int32_t slot = 0; slot < folders_.Count(); ++slot) {
+    for (int32_t slot = 0; slot < folders.Count(); ++slot) {
         walker.Walk(slot);
         if (Silent || slot % kWatchedCounterStep == 0) {
             ParentForm.SetCounter(std::to_string(slot));
@@ -87,12 +88,18 @@ bool clsIndex::WalkDrives(bool Silent, ProgressWindow& ParentForm) {
     return true;
 }
 
-void clsIndex::SaveIndex(ProgressWindow& ParentForm) {
+void clsIndex::SaveIndex(ProgressWindow& ParentForm, FolderTable folders,
+                         std::shared_ptr<IndexItems> items) {
     ParentForm.SetCounter("Saving...");
     services_.events.DoEvents();
-    LastUpdated = services_.clock.Now();
-    ReplaceFileWhole(ProgramFile(kIndexFile), FormatIndexFile(LastUpdated, folders_, *items_));
-    // The assignments' folder numbers point into the table that has just changed.
+    const double now = services_.clock.Now();
+    ReplaceFileWhole(ProgramFile(kIndexFile), FormatIndexFile(now, folders, *items));
+    // A new collection, so that lists of matches from the old index stay whole.
+    folders_ = std::move(folders);
+    items_ = std::move(items);
+    LastUpdated = now;
+    // The assignments' folder numbers point into the table that has just changed; "words.txt"
+    // holds their folders as paths.
     LoadWords();
 }
 

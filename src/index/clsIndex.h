@@ -72,8 +72,11 @@ class clsIndex {
     void UpdateSettings();
 
   private:
-    bool WalkDrives(bool Silent, ProgressWindow& ParentForm);  // false when cancelled
-    void SaveIndex(ProgressWindow& ParentForm);
+    // False when cancelled.
+    bool WalkDrives(bool Silent, ProgressWindow& ParentForm, FolderTable& folders,
+                    IndexItems& items);
+    void SaveIndex(ProgressWindow& ParentForm, FolderTable folders,
+                   std::shared_ptr<IndexItems> items);
     void ReportCancel();
     void ReadIndex();
     std::string ProgramFile(std::string_view name) const;

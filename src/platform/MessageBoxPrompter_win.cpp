@@ -51,12 +51,16 @@ PromptAnswer AnswerOf(int result) {
 
 // A tray program asks while none of its windows may be in front (at start-up, or from the tray),
 // so the box takes the foreground itself rather than waiting grey behind other programs. It
-// belongs to the program's active window (a dialog asking), else to the main window.
+// belongs to the program's active window (a dialog asking), else to the main window; an owner
+// that has gone (a start-up that failed after the main window was made) would make the box fail.
 PromptAnswer MessageBoxPrompter::Ask(std::string_view title, std::string_view text,
                                      PromptButtons buttons, PromptIcon icon) {
-    const HWND active = GetActiveWindow();
-    return AnswerOf(MessageBoxW(active != nullptr ? active : owner_, Widen(text).c_str(),
-                                Widen(title).c_str(), StyleOf(buttons, icon) | MB_SETFOREGROUND));
+    HWND owner = GetActiveWindow();
+    if (owner == nullptr && IsWindow(owner_)) {
+        owner = owner_;
+    }
+    return AnswerOf(MessageBoxW(owner, Widen(text).c_str(), Widen(title).c_str(),
+                                StyleOf(buttons, icon) | MB_SETFOREGROUND));
 }
 
 }  // namespace quorin

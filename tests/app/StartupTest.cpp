@@ -23,9 +23,10 @@ class StartupTest : public ProgramFixture {
     }
 
     bool RunMain(std::string folder = {}) {
-        startup = std::make_unique<Startup>(StartupServices{
-            settings, clock, prompter, shell, index, matches, options, help,
-            folder.empty() ? program.Path() : folder, false, [this] { ++unloads; }});
+        startup = std::make_unique<Startup>(
+            StartupServices{settings, clock, prompter, shell, index, matches, options, help,
+                            folder.empty() ? program.Path() : folder, false, [this] { ++unloads; },
+                            [this](frmMain& form) { connected = &form; }});
         return startup->Main();
     }
     bool IndexFileExists() const {
@@ -33,6 +34,7 @@ class StartupTest : public ProgramFixture {
     }
 
     std::unique_ptr<Startup> startup;
+    frmMain* connected = nullptr;
 };
 
 TEST_F(StartupTest, RecordsWhereAndWhichVersionTheProgramIs) {
@@ -70,6 +72,33 @@ TEST_F(StartupTest, AnsweringYesShowsTheWindowAndBuildsTheIndex) {
     EXPECT_TRUE(IndexFileExists());
     EXPECT_EQ(unloads, 0);
     EXPECT_EQ(index.Get().LastUpdated, clock.now);
+}
+
+// The start-up build yields to the user's clicks: Go, an assignment in the Matches window and a
+// message box must find the main window's services connected by then.
+TEST_F(StartupTest, TheMainWindowIsConnectedBeforeTheFirstBuildLetsTheUserIn) {
+    prompter.answers = {PromptAnswer::Yes};
+    std::vector<bool> connectedDuringBuild;
+    events.onEvents = [&] {
+        connectedDuringBuild.push_back(connected != nullptr && connected == startup->MainForm());
+    };
+    EXPECT_TRUE(RunMain());
+    ASSERT_FALSE(connectedDuringBuild.empty());
+    EXPECT_EQ(connectedDuringBuild, std::vector<bool>(connectedDuringBuild.size(), true));
+}
+
+TEST_F(StartupTest, TheSessionEndingDuringTheFirstBuildEndsTheProgramAfterIt) {
+    prompter.answers = {PromptAnswer::Yes};
+    events.onEvents = [&] {
+        if (unloads == 0 && startup->MainForm()->hwnd() != nullptr) {
+            SendMessageW(startup->MainForm()->hwnd(), WM_ENDSESSION, TRUE, 0);
+            EXPECT_TRUE(index.Exists());
+        }
+    };
+    EXPECT_FALSE(RunMain());
+    EXPECT_EQ(unloads, 1);
+    EXPECT_FALSE(index.Exists());
+    EXPECT_FALSE(IndexFileExists());
 }
 
 TEST_F(StartupTest, CancellingTheFirstBuildEndsTheProgram) {

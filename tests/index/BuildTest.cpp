@@ -263,6 +263,40 @@ TEST_F(EngineTest, WordsRoundTripAndFollowTheirFolderAcrossBuilds) {
     EXPECT_EQ(reloaded->Words().Item(2)->Directory, 1);
 }
 
+TEST_F(EngineTest, WordsSavedDuringABuildKeepTheirRealFolders) {
+    tree.WriteFile("r/sub/budget.xls", "");
+    tree.WriteFile("r/plan.doc", "");
+    UseRoots({"r"});
+    auto index = MakeIndex();
+    index->CreateIndex(true, ui);
+    const clsItem plan = index->FindMatch("plan")->Item(1);
+    index->AddWord(clsItem{"plan", plan.Filename, plan.Directory, ""});
+    const clsItem budget = index->FindMatch("budget")->Item(1);
+
+    // A new first root moves every folder to another slot while the build runs.
+    settings.Save("Index", "DriveCount", "2");
+    settings.Save("Index", "Drive0", tree.MakeFolder("r0/a"));
+    settings.Save("Index", "Drive1", TreePath("r"));
+    index->UpdateSettings();
+    std::string savedDuringBuild;
+    ui.onEvents = [&] {
+        if (savedDuringBuild.empty()) {
+            index->AddWord(clsItem{"budget", budget.Filename, budget.Directory, ""});
+            savedDuringBuild = ReadWholeFile(ProgramFile("words.txt"));
+        }
+    };
+    index->CreateIndex(true, ui);
+
+    EXPECT_EQ(savedDuringBuild, "plan\r\n" + TreePath("r") + "\r\nplan.doc\r\nbudget\r\n" +
+                                    TreePath("r/sub") + "\r\nbudget.xls\r\n");
+    for (const char* word : {"plan", "budget"}) {
+        const clsItem* assigned = index->Words().Item(word);
+        ASSERT_NE(assigned, nullptr);
+        EXPECT_EQ(JoinPath(index->GetPath(assigned->Directory), assigned->Filename),
+                  Matches(*index, word).at(0));
+    }
+}
+
 TEST_F(EngineTest, WordOfAVanishedFolderFallsBackToTheFirstRoot) {
     UseRoots({"r"});
     program.WriteFile("words.txt", "gone\r\n" + TreePath("r/gone") + "\r\nold.txt\r\n");

@@ -217,7 +217,10 @@ LRESULT frmMain::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             break;
         case WM_ENDSESSION:
             if (wParam != FALSE) {
-                Unload();
+                // The process may end before a build below returns and lets the unload run.
+                Form_QueryUnload(false);
+                startPlace_.Save(services_.settings);
+                builds_.EndSession();
             }
             return 0;
         case WM_PAINT:
@@ -459,14 +462,13 @@ void frmMain::cmdGo_Click() {
 }
 
 void frmMain::Timer1_Timer() {
-    clsIndex& index = services_.index.Get();
-    if (ReindexDue(services_.clock.Now(), index.LastUpdated)) {
-        index.CreateIndex(true, *this);
+    if (ReindexDue(services_.clock.Now(), services_.index.Get().LastUpdated)) {
+        BuildIndex(true);
     }
 }
 
 void frmMain::lnkUpdate_Click() {
-    services_.index.Get().CreateIndex(false, *this);
+    BuildIndex(false);
 }
 
 void frmMain::lnkCancel_Click() {

@@ -19,6 +19,7 @@
 #include "ui/controls/TabRow.h"
 #include "ui/controls/ctlLinkLabel.h"
 #include "ui/help/Help.h"
+#include "ui/main/MainBuilds.h"
 #include "ui/main/MainPanels.h"
 #include "ui/main/MatchesOpener.h"
 #include "ui/main/OptionsOpener.h"
@@ -95,6 +96,9 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     // The program's own unload: saves the position, releases the engine, removes the icon.
     void Unload();
     void EnableTimer();
+    // Rebuilds the index with this window as its progress window.
+    void BuildIndex(bool Silent) { builds_.Run(Silent, *this); }
+    bool Unloaded() const { return unloaded_; }
 
     void AddWords();
     void DisableTabs();
@@ -157,6 +161,7 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     HICON Icon(int resourceId) const;
 
     MainServices services_;
+    MainBuilds builds_{services_.index, [this] { Unload(); }};
     int dpi_ = 96;
     MainPanels picPanel;
     TabRow tabLabel;

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <set>
 
 #include "platform/OleDate.h"
@@ -7,6 +8,7 @@
 #include "platform/Text.h"
 #include "ui/Dpi.h"
 #include "ui/FocusColors.h"
+#include "ui/Hourglass.h"
 #include "ui/main/MainWindowFixture.h"
 
 namespace quorin::test {
@@ -255,6 +257,62 @@ TEST_F(MainWindowTest, TheTimerRebuildsOnlyAfterAFullDay) {
     clock.now = built + 1.0 + 1.0 / 86400.0;
     SendMessageW(Window(), WM_TIMER, kTimer1Id, 0);
     EXPECT_EQ(index.Get().LastUpdated, clock.now);
+}
+
+TEST_F(MainWindowTest, EveryBuildKeepsTheWaitPointerForItsWholeLength) {
+    Load();
+    std::vector<bool> shown;
+    std::vector<LRESULT> answers;
+    events.onEvents = [&] {
+        shown.push_back(Hourglass::Shown());
+        answers.push_back(SendMessageW(Window(), WM_SETCURSOR, reinterpret_cast<WPARAM>(Window()),
+                                       MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
+    };
+    Build();
+    clock.now += 2;
+    SendMessageW(Window(), WM_TIMER, kTimer1Id, 0);
+    ASSERT_EQ(index.Get().LastUpdated, clock.now) << "the timer built too";
+    EXPECT_EQ(shown, std::vector<bool>(shown.size(), true));
+    EXPECT_EQ(answers, std::vector<LRESULT>(answers.size(), TRUE));
+    EXPECT_FALSE(Hourglass::Shown());
+}
+
+// The build is below the handler on the stack: the engine must outlive it.
+TEST_F(MainWindowTest, TheSessionEndingDuringABuildCancelsItAndUnloadsOnlyAfterIt) {
+    tree.WriteFile("docs/a.txt", "a");
+    Load();
+    const HWND window = Window();
+    SetWindowPos(window, nullptr, 150, 90, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    bool engineKept = false;
+    int unloadsDuringBuild = -1;
+    std::string placeSavedAtOnce;
+    events.onEvents = [&] {
+        if (unloadsDuringBuild < 0) {
+            SendMessageW(window, WM_ENDSESSION, TRUE, 0);
+            engineKept = index.Exists() && index.Get().Indexing();
+            unloadsDuringBuild = unloads;
+            placeSavedAtOnce = settings.Get("Main", "StartX", "");
+        }
+    };
+    Build();
+    EXPECT_TRUE(engineKept);
+    EXPECT_EQ(unloadsDuringBuild, 0);
+    EXPECT_EQ(placeSavedAtOnce, std::to_string(PixelsToTwips(150, ScreenDpi())))
+        << "the process may end before the build returns";
+    ASSERT_EQ(prompter.boxes.size(), 1u);
+    EXPECT_EQ(prompter.boxes[0].title, "Update Index Cancelled");
+    EXPECT_EQ(unloads, 1);
+    EXPECT_FALSE(IsWindow(window));
+    EXPECT_FALSE(index.Exists());
+    EXPECT_FALSE(std::filesystem::exists(JoinPath(program.Path(), "index.txt")));
+}
+
+TEST_F(MainWindowTest, TheSessionEndingWhileIdleUnloadsAtOnce) {
+    Load();
+    SendMessageW(Window(), WM_ENDSESSION, FALSE, 0);
+    EXPECT_EQ(unloads, 0) << "another program kept the session going";
+    SendMessageW(Window(), WM_ENDSESSION, TRUE, 0);
+    EXPECT_EQ(unloads, 1);
 }
 
 class GoTest : public MainWindowTest {
