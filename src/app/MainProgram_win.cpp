@@ -36,16 +36,18 @@ int RunQuorin() {
     ProgramHelp help(programFolder);
     LazyIndex index({settings, clock, prompter, events, programFolder});
     MainMatchesOpener matches(index, shell, settings, prompter);
-<<<<<<< HEAD
     MainOptionsOpener options(index, settings, prompter, help);
-=======
-    const auto connect = [&prompter, &matches](frmMain& mainForm) {
+    // The main window's services, connected before the first build lets the user in.
+    const auto connect = [&prompter, &matches, &options](frmMain& mainForm) {
+        const auto icon =
+            reinterpret_cast<HICON>(SendMessageW(mainForm.hwnd(), WM_GETICON, ICON_SMALL, 0));
         prompter.SetOwner(mainForm.hwnd());
         matches.SetAddWords([&mainForm] { mainForm.AddWords(); });
-        matches.SetIcon(
-            reinterpret_cast<HICON>(SendMessageW(mainForm.hwnd(), WM_GETICON, ICON_SMALL, 0)));
+        matches.SetIcon(icon);
+        options.SetMainWindow(mainForm.hwnd());
+        options.SetAddWords([&mainForm] { mainForm.AddWords(); });
+        options.SetIcon(icon);
     };
->>>>>>> fixes
     Startup startup({settings, clock, prompter, shell, index, matches, options, help, programFolder,
                      true, [] { PostQuitMessage(0); }, connect});
 
@@ -53,18 +55,6 @@ int RunQuorin() {
     if (!running) {
         return 0;
     }
-<<<<<<< HEAD
-    frmMain* mainForm = startup.MainForm();
-    prompter.SetOwner(mainForm->hwnd());
-    const auto icon =
-        reinterpret_cast<HICON>(SendMessageW(mainForm->hwnd(), WM_GETICON, ICON_SMALL, 0));
-    matches.SetAddWords([mainForm] { mainForm->AddWords(); });
-    matches.SetIcon(icon);
-    options.SetMainWindow(mainForm->hwnd());
-    options.SetAddWords([mainForm] { mainForm->AddWords(); });
-    options.SetIcon(icon);
-=======
->>>>>>> fixes
     return MessagePump::Run();
 }
 
