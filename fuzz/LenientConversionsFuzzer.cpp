@@ -2,8 +2,8 @@
 // survive printing and reading again, every number is also a boolean (zero is false), and the
 // two filter modes always disagree.
 #include "index/IndexSettings.h"
-#include "platform/LenientConversions.h"
 #include "index/NameRules.h"
+#include "platform/LenientConversions.h"
 
 #include <cstdlib>
 #include <string>

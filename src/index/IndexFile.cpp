@@ -3,9 +3,9 @@
 #include <charconv>
 #include <system_error>
 
-#include "platform/LenientConversions.h"
 #include "platform/Errors.h"
 #include "platform/FileSystem.h"
+#include "platform/LenientConversions.h"
 #include "platform/OleDate.h"
 #include "platform/TextFile.h"
 

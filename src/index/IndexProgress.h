@@ -8,7 +8,7 @@ namespace quorin {
 // The window a build reports to: the main window (progress panel, tabs, tray tip) or the
 // first-run wizard (which tidies its own window, so its EndIndexing does nothing).
 class ProgressWindow {
-public:
+  public:
     virtual ~ProgressWindow() = default;
     // Show the progress, play the animation file, disable the tabs.
     virtual void BeginIndexing(const std::string& animationPath) = 0;
@@ -19,7 +19,7 @@ public:
 
 // The main window's search progress bar, shown while FindMatch scans the index.
 class SearchProgress {
-public:
+  public:
     virtual ~SearchProgress() = default;
     virtual void Show(int maximum) = 0;
     virtual void SetValue(int value) = 0;

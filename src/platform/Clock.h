@@ -6,13 +6,13 @@ namespace quorin {
 
 // Dates are OLE Automation dates: days since 1899-12-30 as a double, 0 meaning never.
 class Clock {
-public:
+  public:
     virtual ~Clock() = default;
     virtual double Now() const = 0;  // local date and time
 };
 
 class SystemClock final : public Clock {
-public:
+  public:
     double Now() const override;
 };
 

@@ -4,7 +4,7 @@ namespace quorin {
 
 // Long work on the UI thread calls DoEvents() to let pending window messages run.
 class EventPump {
-public:
+  public:
     virtual ~EventPump() = default;
     virtual void DoEvents() = 0;
 };

@@ -10,10 +10,10 @@ enum class PromptAnswer { Ok, Yes, No, Cancel };
 
 // Message boxes: the one place the program tells or asks the user something.
 class Prompter {
-public:
+  public:
     virtual ~Prompter() = default;
-    virtual PromptAnswer Ask(std::string_view title, std::string_view text,
-                             PromptButtons buttons, PromptIcon icon) = 0;
+    virtual PromptAnswer Ask(std::string_view title, std::string_view text, PromptButtons buttons,
+                             PromptIcon icon) = 0;
 };
 
 }  // namespace quorin

@@ -8,7 +8,7 @@ namespace quorin {
 // The per-user settings of application "Quorin": string values by section and key.
 // Keys and sections compare without regard to case, as in the registry.
 class SettingsStore {
-public:
+  public:
     virtual ~SettingsStore() = default;
 
     virtual std::string Get(std::string_view section, std::string_view key,

@@ -7,7 +7,7 @@ namespace quorin {
 // Move-only owner of an OS handle. Traits supplies the handle type, its "none" value and Close().
 template <typename Traits>
 class UniqueHandle {
-public:
+  public:
     using Handle = typename Traits::Handle;
 
     UniqueHandle() = default;
@@ -33,7 +33,7 @@ public:
         }
     }
 
-private:
+  private:
     Handle handle_ = Traits::None();
 };
 

@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "EngineFixture.h"
-#include "platform/LenientConversions.h"
 #include "platform/Errors.h"
 #include "platform/IniSettingsStore.h"
+#include "platform/LenientConversions.h"
 
 namespace quorin {
 namespace {

@@ -5,12 +5,12 @@
 
 #include <string>
 
-#include "ui/splash/Splash.h"
 #include "platform/Path.h"
 #include "platform/Text.h"
 #include "platform/WinHandles.h"
 #include "ui/MessagePump.h"
 #include "ui/help/ProgramHelp.h"
+#include "ui/splash/Splash.h"
 
 namespace {
 
