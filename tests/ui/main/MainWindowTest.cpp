@@ -201,6 +201,22 @@ TEST_F(MainWindowTest, TrayMenuGoSelectsTheGoTabAndShowsTheWindow) {
     EXPECT_EQ(PanelsShown(), (std::vector<bool>{true, false, false, false, false, false}));
 }
 
+TEST_F(MainWindowTest, ReactivatedOnAnotherPanelTheWindowKeepsKeysAwayFromTheHiddenWordBox) {
+    Load();
+    form->Show();
+    ClickTab(3);
+    SetFocus(Window());
+    SendMessageW(Window(), WM_ACTIVATE, WA_ACTIVE, 0);
+    const HWND focus = GetFocus();
+    EXPECT_NE(focus, Control(kIdWord));
+    EXPECT_NE(GetParent(focus), Control(kIdWord)) << "not the word box's edit field either";
+
+    ClickTab(0);
+    SetFocus(Window());
+    SendMessageW(Window(), WM_ACTIVATE, WA_ACTIVE, 0);
+    EXPECT_EQ(GetParent(GetFocus()), Control(kIdWord)) << "on the Go panel the box takes it";
+}
+
 TEST_F(MainWindowTest, ABuildDisablesTabsShowsProgressOnTopAndRefusesToExit) {
     tree.WriteFile("docs/a.txt", "a");
     Load();
