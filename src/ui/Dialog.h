@@ -23,8 +23,7 @@ class Dialog : public Window {
     void ShowModeless(HWND owner);
     bool IsModal() const { return modal_; }
 
-    // Keys a dialog handles before the dialog manager (Ctrl+Tab between pages). True when the
-    // message was taken. For the message pump; any active window may be passed.
+    // Keys a dialog handles before the dialog manager; see Window::TranslateKeys.
     static bool TranslateKeys(HWND active, const MSG& message);
 
   protected:
@@ -39,7 +38,6 @@ class Dialog : public Window {
     // dialog unless overridden.
     virtual void OnOk() { EndDialog(IDOK); }
     virtual void OnCancel() { EndDialog(IDCANCEL); }
-    virtual bool OnKey(const MSG&) { return false; }
     // Closes the dialog with a result: ends the modal loop, or destroys a modeless dialog.
     void EndDialog(INT_PTR result);
 

@@ -40,7 +40,8 @@ void MessagePump::RunUntil(const std::function<bool()>& done) {
 void MessagePump::Dispatch(MSG& message) {
     const HWND active = GetActiveWindow();
     if (active != nullptr &&
-        (Dialog::TranslateKeys(active, message) || IsDialogMessageW(active, &message))) {
+        (Window::TranslateKeys(active, message) || Dialog::TranslateKeys(active, message) ||
+         IsDialogMessageW(active, &message))) {
         return;
     }
     TranslateMessage(&message);

@@ -32,6 +32,16 @@ LRESULT CALLBACK Window::Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARA
     return Route(hwnd, message, wParam, lParam);
 }
 
+bool Window::TranslateKeys(HWND active, const MSG& message) {
+    if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) {
+        return false;
+    }
+    // Only a window of this procedure keeps a Window in its user data.
+    const bool ours =
+        GetWindowLongPtrW(active, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&Window::Procedure);
+    return ours && FromHandle(active) != nullptr && FromHandle(active)->OnKey(message);
+}
+
 HWND Window::CreateControl(HWND parent, const wchar_t* className, std::string_view text,
                            DWORD style, int id, DWORD exStyle) {
     return CreateHandle(className,

@@ -60,6 +60,10 @@ class Window {
         return Route(hwnd, message, wParam, lParam);
     }
 
+    // Keys a window handles before the dialog manager (Ctrl+Tab between pages). True when the
+    // message was taken. For the message pump; any active window may be passed.
+    static bool TranslateKeys(HWND active, const MSG& message);
+
     // A child control of a system or registered class, visible, at (0, 0) with no size until
     // its parent lays it out. Throws Error when it cannot be created.
     static HWND CreateControl(HWND parent, const wchar_t* className, std::string_view text,
@@ -96,6 +100,7 @@ class Window {
     virtual HBRUSH OnControlColor(HWND control, HDC dc);
     // Moves the window to the place the system suggests for its new DPI.
     virtual void OnDpiChanged(int dpi, const RECT& suggested);
+    virtual bool OnKey(const MSG&) { return false; }
 
     // Binds a window made by the system (a dialog) to this object.
     static void Bind(HWND hwnd, Window* window);

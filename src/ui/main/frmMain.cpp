@@ -295,19 +295,27 @@ void frmMain::OnCommand(int id, int code, HWND) {
 }
 
 void frmMain::cboWord_Command(int code) {
-    switch (code) {
-        case CBN_EDITCHANGE:
-            cboWord_Change();
-            break;
-        case CBN_SETFOCUS:
-            cboWord_GotFocus();
-            break;
-        case CBN_KILLFOCUS:
-            cboWord_LostFocus();
-            break;
-        default:
-            break;
+    if (code == CBN_EDITCHANGE) {
+        cboWord.Change();  // cboWord_Change
+    } else if (code == CBN_SETFOCUS) {
+        HighlightControl(cboWord.hwnd());  // cboWord_GotFocus
+    } else if (code == CBN_KILLFOCUS) {
+        UnhighlightControl(cboWord.hwnd());  // cboWord_LostFocus
     }
+}
+
+// Ctrl+Tab and Ctrl+Shift+Tab go round the tabs as in a tabbed dialog; never to Exit, which
+// would end the program on a key meant to look around.
+bool frmMain::OnKey(const MSG& message) {
+    if (message.message != WM_KEYDOWN || message.wParam != VK_TAB || GetKeyState(VK_CONTROL) >= 0 ||
+        !tabLabel[currentTab_].Enabled()) {
+        return false;
+    }
+    const int step = GetKeyState(VK_SHIFT) < 0 ? kExitPanel - 1 : 1;
+    const int next = currentTab_ == kExitPanel ? kGoPanel : (currentTab_ + step) % kExitPanel;
+    tabLabel[next].SetSelected(true);
+    tabLabel_Click(next);
+    return true;
 }
 
 void frmMain::Form_Paint() {
@@ -423,18 +431,6 @@ void frmMain::UpdateIndexPanel() {
     SetText(lblLastUpdated, FormatLocalDateTime(index.LastUpdated));
     SetText(lblUpdateInterval, "The index is automatically updated every " +
                                    std::to_string(index.UpdateInterval) + " hour(s).");
-}
-
-void frmMain::cboWord_Change() {
-    cboWord.Change();
-}
-
-void frmMain::cboWord_GotFocus() {
-    HighlightControl(cboWord.hwnd());
-}
-
-void frmMain::cboWord_LostFocus() {
-    UnhighlightControl(cboWord.hwnd());
 }
 
 void frmMain::cmdGo_Click() {

@@ -124,6 +124,7 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     void OnTimer(UINT_PTR id) override;
     void OnCommand(int id, int code, HWND control) override;
     HBRUSH OnControlColor(HWND control, HDC dc) override;
+    bool OnKey(const MSG& message) override;
     void OnDpiChanged(int dpi, const RECT& suggested) override;
 
   private:
@@ -140,9 +141,6 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     void CreatePanelControls();
 
     void tabLabel_Click(int Index);
-    void cboWord_Change();
-    void cboWord_GotFocus();
-    void cboWord_LostFocus();
     void cmdGo_Click();
     void Timer1_Timer();
     void lnkUpdate_Click();

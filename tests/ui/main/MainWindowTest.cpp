@@ -217,6 +217,32 @@ TEST_F(MainWindowTest, ReactivatedOnAnotherPanelTheWindowKeepsKeysAwayFromTheHid
     EXPECT_EQ(GetParent(GetFocus()), Control(kIdWord)) << "on the Go panel the box takes it";
 }
 
+TEST_F(MainWindowTest, CtrlTabGoesRoundThePanelsButNeverToExit) {
+    Load();
+    form->Show();
+    SetForegroundWindow(Window());
+    const auto press = [this](bool shift) {
+        BYTE keys[256] = {};
+        GetKeyboardState(keys);
+        keys[VK_CONTROL] = 0x80;
+        keys[VK_SHIFT] = shift ? 0x80 : 0;
+        SetKeyboardState(keys);
+        PostMessageW(GetFocus() != nullptr ? GetFocus() : Window(), WM_KEYDOWN, VK_TAB, 0);
+        events.pump.DoEvents();
+        keys[VK_CONTROL] = 0;
+        keys[VK_SHIFT] = 0;
+        SetKeyboardState(keys);
+        return form->CurrentTab();
+    };
+    EXPECT_EQ(press(false), 1);
+    EXPECT_EQ(PanelsShown(), (std::vector<bool>{false, true, false, false, false, false}));
+    EXPECT_EQ(press(false), 2);
+    EXPECT_EQ(press(false), 3);
+    EXPECT_EQ(press(false), 0) << "from Help round to Go, past Exit";
+    EXPECT_EQ(press(true), 3);
+    EXPECT_EQ(unloads, 0);
+}
+
 TEST_F(MainWindowTest, ABuildDisablesTabsShowsProgressOnTopAndRefusesToExit) {
     tree.WriteFile("docs/a.txt", "a");
     Load();
