@@ -35,23 +35,24 @@ class KnownExtensionsTest : public ::testing::Test {
 };
 
 TEST_F(KnownExtensionsTest, ListsTheClassesRootsFileTypesInItsOrder) {
-    for (const char* name : {".qzb", ".QZA", ".qzc.gz", "QuorinTest.qzd", ".qz*"}) {
+    // ".qk": the other tests' scratch types, made beside this one, start with ".qz".
+    for (const char* name : {".qkb", ".QKA", ".qkc.gz", "QuorinTest.qkd", ".qk*"}) {
         classes_.CreateKey(name);
     }
     Names ours;
     for (const std::string& name : KnownExtensions(registry_)) {
-        if (StartsWith(name, ".qz") || StartsWith(name, ".QZ")) {
+        if (StartsWith(name, ".qk") || StartsWith(name, ".QK")) {
             ours.push_back(name);
         }
     }
-    EXPECT_EQ(ours, (Names{".QZA", ".qzb"}));
+    EXPECT_EQ(ours, (Names{".QKA", ".qkb"}));
 }
 
 // A real machine's classes root holds far more names than GetKeyNames lists.
 TEST_F(KnownExtensionsTest, AClassesRootBeyondTheBoundStillGivesItsFileTypes) {
     constexpr int kExtensions = 3000;
     for (int i = 0; i < kExtensions; ++i) {
-        classes_.CreateKey(".qz" + std::to_string(10000 + i));
+        classes_.CreateKey(".qk" + std::to_string(10000 + i));
     }
     // Named to stand before Wine's own 51-character "Microsoft.DirectMusic..." key, whose name
     // would end the listing before the bound.
@@ -63,10 +64,10 @@ TEST_F(KnownExtensionsTest, AClassesRootBeyondTheBoundStillGivesItsFileTypes) {
     EXPECT_TRUE(std::all_of(known.begin(), known.end(), IsFileTypeName));
     Names ours;
     std::copy_if(known.begin(), known.end(), std::back_inserter(ours),
-                 [](const std::string& name) { return StartsWith(name, ".qz"); });
+                 [](const std::string& name) { return StartsWith(name, ".qk"); });
     ASSERT_EQ(ours.size(), size_t{kExtensions});
-    EXPECT_EQ(ours.front(), ".qz10000");
-    EXPECT_EQ(ours.back(), ".qz12999");
+    EXPECT_EQ(ours.front(), ".qk10000");
+    EXPECT_EQ(ours.back(), ".qk12999");
 
     // GetKeyNames keeps its bound and its failure; the names before the bound come in name
     // order, which puts the "." names first.
