@@ -44,6 +44,11 @@ std::string LookupKey(const std::string& fileName) {
     return Narrow(std::wstring_view(wide).substr(wide.size() - std::min(wide.size(), kKeyLength)));
 }
 
+// Only this case: "SETUP.EXE" is looked up by its type like any other file.
+bool IsProgram(const std::string& fileName) {
+    return fileName.ends_with(".exe");
+}
+
 }  // namespace
 
 ctlIconExtractor::ctlIconExtractor()
@@ -79,7 +84,7 @@ std::optional<int> ctlIconExtractor::AddIcon(const std::string& IconLocation, st
 
 std::optional<int> ctlIconExtractor::RetrieveFileIcon(const std::string& FileName,
                                                       const std::string& Path) {
-    if (FileName.ends_with(".exe")) {
+    if (IsProgram(FileName)) {
         std::string filePath = JoinPath(Path, FileName);
         int iconIndex = 0;
         return AddIcon("", filePath, iconIndex);
@@ -89,6 +94,10 @@ std::optional<int> ctlIconExtractor::RetrieveFileIcon(const std::string& FileNam
 
 std::optional<int> ctlIconExtractor::RetrieveExtIcon(const std::string& Ext) {
     return TypeIcon(Ext);
+}
+
+std::string ctlIconExtractor::ImageKey(const std::string& FileName, const std::string& Path) {
+    return IsProgram(FileName) ? JoinPath(Path, FileName) : ToUpper(LookupKey(FileName));
 }
 
 // "path,index": the first comma splits; "%SystemRoot%" (this case only) stands for the Windows

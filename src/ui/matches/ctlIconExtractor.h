@@ -44,6 +44,10 @@ class ctlIconExtractor {
     // Ext as the classes root knows it, dot included: ".txt".
     std::optional<int> RetrieveExtIcon(const std::string& Ext);
 
+    // What RetrieveFileIcon's answer depends on, for a host that keys the images it gets back:
+    // the program's own path, or the type's key without regard to case.
+    static std::string ImageKey(const std::string& FileName, const std::string& Path);
+
   private:
     static constexpr int kSurfaceSize = 32;
 

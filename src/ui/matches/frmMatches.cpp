@@ -5,8 +5,8 @@
 
 #include <utility>
 
-#include "platform/LenientConversions.h"
 #include "index/clsIndex.h"
+#include "platform/LenientConversions.h"
 #include "platform/Path.h"
 #include "platform/Prompter.h"
 #include "platform/SettingsStore.h"
@@ -102,14 +102,14 @@ void frmMatches::Matches(MatchList matches) {
     UpdateWindow(hwnd());
     matches_ = std::move(matches);
     try {
-        for (int32_t position = 1; position <= matches_->Count(); ++position) {
-            AddRow(matches_->Item(position));
-        }
+        rows_.Fill(*matches_, [this](int32_t folder) { return host_->index.GetPath(folder); });
     } catch (const std::exception& error) {
         // The rows so far stay.
+        ListView_SetItemCount(lvwItems, rows_.Count());
         host_->prompter.Ask(kSection, error.what(), PromptButtons::Ok, PromptIcon::Critical);
         return;
     }
+    ListView_SetItemCount(lvwItems, rows_.Count());
     SelectRow(0);
 }
 
@@ -248,6 +248,11 @@ LRESULT frmMatches::OnNotify(const NMHDR& header) {
         case NM_RETURN:
             PostMessageW(hwnd(), kListKeyPress, VK_RETURN, 0);
             break;
+        case LVN_GETDISPINFOW:
+            // The list hands over its own item to be filled in.
+            ShowRow(
+                const_cast<NMLVDISPINFOW&>(reinterpret_cast<const NMLVDISPINFOW&>(header)).item);
+            break;
         default:
             break;
     }
@@ -277,16 +282,16 @@ void frmMatches::CreateControls() {
         hwnd(), L"STATIC",
         "Quorin found multiple matches for your keyword. Please choose from the following:",
         SS_LEFT | SS_NOPREFIX, kMatchesLabelId);
-    lvwItems = CreateControl(
-        hwnd(), WC_LISTVIEWW, "",
-        WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
-        kMatchesListId, WS_EX_CLIENTEDGE);
+    lvwItems = CreateControl(hwnd(), WC_LISTVIEWW, "",
+                             WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |
+                                 LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
+                             kMatchesListId, WS_EX_CLIENTEDGE);
     ListView_SetExtendedListViewStyle(lvwItems, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
     AddColumn(lvwItems, MatchesSort::kName, L"Name", TwipsToPixels(kNameColumnTwips, dpi_));
     AddColumn(lvwItems, MatchesSort::kLocation, L"Location",
               TwipsToPixels(kLocationColumnTwips, dpi_));
     chkAssociate = CreateControl(hwnd(), L"BUTTON", "Always associate this word with this item",
-                                  WS_TABSTOP | BS_AUTOCHECKBOX, kMatchesAssociateId);
+                                 WS_TABSTOP | BS_AUTOCHECKBOX, kMatchesAssociateId);
     cmdOpen =
         CreateControl(hwnd(), L"BUTTON", "Open", WS_TABSTOP | BS_DEFPUSHBUTTON, kMatchesOpenId);
 }
@@ -313,19 +318,28 @@ void frmMatches::RestorePlace() {
     }
 }
 
-void frmMatches::AddRow(const clsItem& item) {
-    const std::string folder = host_->index.GetPath(item.Directory);
-    const std::optional<int> image = ctlIconExtractor1.RetrieveFileIcon(item.Filename, folder);
-    Row& added = rows_.emplace_back(
-        Row{Widen(item.Filename), Widen(folder), JoinPath(folder, item.Filename)});
-    LVITEMW row{};
-    row.mask = LVIF_TEXT | LVIF_IMAGE | LVIF_PARAM;
-    row.iItem = ListView_GetItemCount(lvwItems);
-    row.pszText = added.name.data();
-    row.iImage = image.value_or(I_IMAGENONE);
-    row.lParam = static_cast<LPARAM>(rows_.size() - 1);
-    const int inserted = ListView_InsertItem(lvwItems, &row);
-    ListView_SetItemText(lvwItems, inserted, MatchesSort::kLocation, added.location.data());
+void frmMatches::ShowRow(LVITEMW& item) {
+    if (item.iItem < 0 || item.iItem >= rows_.Count()) {
+        return;
+    }
+    if ((item.mask & LVIF_TEXT) != 0 && item.cchTextMax > 0) {
+        lstrcpynW(item.pszText, rows_.Text(item.iItem, item.iSubItem).c_str(), item.cchTextMax);
+    }
+    if ((item.mask & LVIF_IMAGE) != 0 && item.iSubItem == MatchesSort::kName) {
+        item.iImage = RowImage(item.iItem).value_or(I_IMAGENONE);
+    }
+}
+
+// Rows of the same type, or of the same program, share one image.
+std::optional<int> frmMatches::RowImage(int row) {
+    const std::string name = rows_.Filename(row);
+    const std::string& folder = rows_.Folder(row);
+    const auto [image, added] =
+        images_.try_emplace(ctlIconExtractor::ImageKey(name, folder), std::nullopt);
+    if (added) {
+        image->second = ctlIconExtractor1.RetrieveFileIcon(name, folder);
+    }
+    return image->second;
 }
 
 void frmMatches::SelectRow(int row) {
@@ -350,34 +364,20 @@ void frmMatches::OpenRow(int row) {
             host_->AddWords();
         }
     }
-    const Row& chosen = RowAt(row);
-    host_->shell.Open(chosen.path, "", Narrow(chosen.location), kShowNormal);
+    const std::string& folder = rows_.Folder(row);
+    host_->shell.Open(JoinPath(folder, rows_.Filename(row)), "", folder, kShowNormal);
 }
 
-const frmMatches::Row& frmMatches::RowAt(int row) const {
-    LVITEMW item{};
-    item.mask = LVIF_PARAM;
-    item.iItem = row;
-    ListView_GetItem(lvwItems, &item);
-    return rows_.at(static_cast<size_t>(item.lParam));
-}
-
-const std::wstring& frmMatches::Row::Text(int column) const {
-    return column == MatchesSort::kName ? name : location;
-}
-
-// The list view's own sort compares the texts of the sort key's column this way: without
-// regard to case. The rows are told apart by lParam, which sorting leaves with them.
-int CALLBACK frmMatches::CompareRows(LPARAM first, LPARAM second, LPARAM self) {
-    const auto& form = *reinterpret_cast<const frmMatches*>(self);
-    const int column = form.sort_.SortKey;
-    const int order = lstrcmpiW(form.rows_.at(static_cast<size_t>(first)).Text(column).c_str(),
-                                form.rows_.at(static_cast<size_t>(second)).Text(column).c_str());
-    return form.sort_.SortOrder == MatchesSortOrder::Descending ? -order : order;
-}
-
+// The selected row stays selected, wherever the sort puts it.
 void frmMatches::SortRows() {
-    ListView_SortItems(lvwItems, &CompareRows, reinterpret_cast<LPARAM>(this));
+    const std::optional<int> selected = SelectedRow();
+    const std::optional<int32_t> position =
+        selected ? std::optional<int32_t>(rows_.Position(*selected)) : std::nullopt;
+    rows_.Sort(sort_.SortKey, sort_.SortOrder);
+    if (position) {
+        SelectRow(rows_.RowOf(*position).value_or(0));
+    }
+    InvalidateRect(lvwItems, nullptr, FALSE);
 }
 
 void frmMatches::ShowSortArrow() {
