@@ -1,0 +1,207 @@
+// quorin-bench-ui: the Matches window's side of scripts/bench-ui, timed inside the process: the
+// real window over a real engine, shown on the screen, each step timed until its messages
+// (painting included) are all handled.
+//   quorin-bench-ui matches FOLDER WORD GOES   fill, sort by each column, memory, and the GDI
+//                                              and USER objects after GOES windows
+//   quorin-bench-ui icons FOLDER WORD          the icon of every match, asked one by one from
+//                                              an icon extractor (what a fill used to cost)
+// Each command prints one JSON object; times in seconds.
+#include "ProcessStats.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/ConsolePrompter.h"
+#include "cli/IdleEventPump.h"
+#include "index/clsIndex.h"
+#include "platform/Clock.h"
+#include "platform/Errors.h"
+#include "platform/MemorySettingsStore.h"
+#include "platform/Shell.h"
+#include "ui/matches/ctlIconExtractor.h"
+#include "ui/matches/frmMatches.h"
+
+namespace quorin::bench {
+namespace {
+
+class NoShell final : public Shell {
+  public:
+    void Open(std::string_view, std::string_view, std::string_view, int) override {}
+};
+
+double Now() {
+    LARGE_INTEGER count{};
+    LARGE_INTEGER frequency{};
+    QueryPerformanceCounter(&count);
+    QueryPerformanceFrequency(&frequency);
+    return static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
+}
+
+// Handles every message waiting, the paints the system makes once the queue is empty included.
+void HandleAllMessages() {
+    MSG message{};
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+// Wine answers GetGuiResources with 0, so the thread's windows are counted too.
+struct Objects {
+    DWORD gdi = 0;
+    DWORD user = 0;
+    int windows = 0;
+};
+
+BOOL CALLBACK CountWindow(HWND window, LPARAM count) {
+    ++*reinterpret_cast<int*>(count);
+    EnumChildWindows(window, &CountWindow, count);
+    return TRUE;
+}
+
+Objects CountObjects() {
+    const HANDLE self = GetCurrentProcess();
+    int windows = 0;
+    EnumThreadWindows(GetCurrentThreadId(), &CountWindow, reinterpret_cast<LPARAM>(&windows));
+    return {GetGuiResources(self, GR_GDIOBJECTS), GetGuiResources(self, GR_USEROBJECTS), windows};
+}
+
+class Engine {
+  public:
+    explicit Engine(const std::string& folder)
+        : index_(IndexServices{settings_, clock_, prompter_, events_, folder}) {}
+
+    clsIndex& Index() { return index_; }
+    MatchesHost Host() { return {index_, shell_, settings_, prompter_, {}, nullptr}; }
+
+  private:
+    MemorySettingsStore settings_;
+    SystemClock clock_;
+    ConsolePrompter prompter_{std::cerr};
+    IdleEventPump events_;
+    NoShell shell_;
+    clsIndex index_;
+};
+
+// What the list's parent gets for a click on a column header.
+void ClickColumn(HWND form, int column) {
+    const HWND list = GetDlgItem(form, kMatchesListId);
+    NMLISTVIEW click{};
+    click.hdr = {list, static_cast<UINT_PTR>(kMatchesListId), LVN_COLUMNCLICK};
+    click.iItem = -1;
+    click.iSubItem = column;
+    SendMessageW(form, WM_NOTIFY, kMatchesListId, reinterpret_cast<LPARAM>(&click));
+}
+
+int Matches(const std::string& folder, const std::string& word, int goes) {
+    Engine engine(folder);
+    HandleAllMessages();
+    const uint64_t residentBefore = ResidentBytes();
+    double fill = 0;
+    double sortName = 0;
+    double sortLocation = 0;
+    double sortAgain = 0;
+    uint64_t residentFilled = 0;
+    uint64_t residentFirst = 0;
+    int32_t count = 0;
+    Objects first{};
+    for (int go = 1; go <= goes; ++go) {
+        std::optional<MatchList> matches = engine.Index().FindMatch(word);
+        if (!matches) {
+            throw Error("No match for " + word + ".");
+        }
+        count = matches->Count();
+        const double start = Now();
+        const HWND form = ShowMatches(word, std::move(*matches), engine.Host());
+        HandleAllMessages();
+        if (go == 1) {
+            fill = Now() - start;
+            residentFilled = ResidentBytes();
+            const double sortStart = Now();
+            ClickColumn(form, 0);
+            HandleAllMessages();
+            const double sortMiddle = Now();
+            ClickColumn(form, 1);
+            HandleAllMessages();
+            const double sortEnd = Now();
+            ClickColumn(form, 0);
+            HandleAllMessages();
+            sortName = sortMiddle - sortStart;
+            sortLocation = sortEnd - sortMiddle;
+            sortAgain = Now() - sortEnd;
+        }
+        DestroyWindow(form);
+        HandleAllMessages();
+        if (go == 1) {
+            first = CountObjects();
+            residentFirst = ResidentBytes();
+        }
+    }
+    const Objects last = CountObjects();
+    std::printf(
+        "{\"matches\": %d, \"fill_seconds\": %.4f, \"sort_name_seconds\": %.4f, "
+        "\"sort_location_seconds\": %.4f, \"sort_name_again_seconds\": %.4f, "
+        "\"window_bytes\": %lld, \"gdi_first\": %lu, \"gdi_last\": %lu, \"user_first\": %lu, "
+        "\"user_last\": %lu, \"windows_first\": %d, \"windows_last\": %d, "
+        "\"resident_after_first_bytes\": "
+        "%lld, \"resident_after_last_bytes\": %lld}\n",
+        count, fill, sortName, sortLocation, sortAgain,
+        static_cast<long long>(residentFilled) - static_cast<long long>(residentBefore), first.gdi,
+        last.gdi, first.user, last.user, first.windows, last.windows,
+        static_cast<long long>(residentFirst) - static_cast<long long>(residentBefore),
+        static_cast<long long>(ResidentBytes()) - static_cast<long long>(residentBefore));
+    return 0;
+}
+
+int Icons(const std::string& folder, const std::string& word) {
+    Engine engine(folder);
+    const std::optional<MatchList> matches = engine.Index().FindMatch(word);
+    if (!matches) {
+        throw Error("No match for " + word + ".");
+    }
+    const UniqueImageList list(ImageList_Create(16, 16, ILC_COLOR32 | ILC_MASK, 0, 8));
+    ctlIconExtractor extractor;
+    extractor.ImageListLarge(list.get());
+    const double start = Now();
+    for (int32_t position = 1; position <= matches->Count(); ++position) {
+        const clsItem item = matches->Item(position);
+        extractor.RetrieveFileIcon(item.Filename, engine.Index().GetPath(item.Directory));
+    }
+    std::printf("{\"matches\": %d, \"icon_seconds\": %.4f}\n", matches->Count(), Now() - start);
+    return 0;
+}
+
+int Run(const std::vector<std::string>& args) {
+    const auto command = args.empty() ? std::string() : args[0];
+    if (command == "matches" && args.size() == 4) {
+        return Matches(args[1], args[2], std::atoi(args[3].c_str()));
+    }
+    if (command == "icons" && args.size() == 3) {
+        return Icons(args[1], args[2]);
+    }
+    std::fprintf(stderr, "usage: quorin-bench-ui matches FOLDER WORD GOES | icons FOLDER WORD\n");
+    return 2;
+}
+
+}  // namespace
+}  // namespace quorin::bench
+
+int main(int argc, char** argv) {
+    INITCOMMONCONTROLSEX controls{sizeof controls, ICC_LISTVIEW_CLASSES | ICC_PROGRESS_CLASS};
+    InitCommonControlsEx(&controls);
+    try {
+        return quorin::bench::Run(std::vector<std::string>(argv + 1, argv + argc));
+    } catch (const quorin::Error& e) {
+        std::fprintf(stderr, "quorin-bench-ui: %s\n", e.what());
+        return 1;
+    }
+}
