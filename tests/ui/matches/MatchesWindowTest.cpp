@@ -311,5 +311,79 @@ TEST_F(MatchesWindowTest, AFailureWhileFillingIsShownAndKeepsTheRowsSoFar) {
     DestroyWindow(window);
 }
 
+// Names that compare differently with and without regard to case, punctuation and digits, so
+// that a sort that only looked like lstrcmpiW would show.
+std::string ManyName(int i) {
+    static constexpr const char* kStems[] = {"Report", "report", "co-op", "coop", "Zeta",
+                                             "alpha",  "Alpha",  "b_2",   "B-10", "émile"};
+    return std::string(kStems[i % 10]) + " " + std::to_string((i * 7919) % 1000) + ".qzx";
+}
+
+TEST_F(MatchesWindowTest, AHundredThousandRowsShowCountSortAndAssociateByPosition) {
+    constexpr int kRows = 100000;
+    auto items = std::make_shared<IndexItems>();
+    std::vector<int32_t> positions;
+    for (int i = 0; i < kRows; ++i) {
+        items->Add(ManyName(i), i % 3);
+        positions.push_back(i + 1);
+    }
+    frmMatches& loaded = frmMatches::Load(Host());
+    const HWND form = loaded.hwnd();
+    const HWND list = List(form);
+    loaded.Word("many");
+    loaded.Matches(MatchList(items, positions));
+
+    wchar_t label[200] = {};
+    GetWindowTextW(GetDlgItem(form, kMatchesLabelId), label, 200);
+    EXPECT_EQ(Narrow(label), "100000 matches found. Please choose from the following.");
+    ASSERT_EQ(ListView_GetItemCount(list), kRows);
+    EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_SELECTED), 0);
+    const auto text = [list](int row, int column) {
+        wchar_t buffer[MAX_PATH] = {};
+        ListView_GetItemText(list, row, column, buffer, MAX_PATH);
+        return std::wstring(buffer);
+    };
+    EXPECT_EQ(Narrow(text(0, 0)), ManyName(0));
+    EXPECT_EQ(Narrow(text(0, 1)), "C:\\Work");
+    EXPECT_EQ(Narrow(text(kRows - 1, 0)), ManyName(kRows - 1));
+    EXPECT_EQ(Narrow(text(kRows - 1, 1)), "C:\\Work");
+
+    // Every neighbour in order as lstrcmpiW has it; equal texts keep the order they had, which
+    // for the first sort is collection order.
+    const auto expectSorted = [&](int column, int direction, const char* what) {
+        int wrong = 0;
+        for (int row = 1; row < kRows; ++row) {
+            if (lstrcmpiW(text(row - 1, column).c_str(), text(row, column).c_str()) * direction >
+                0) {
+                ++wrong;
+            }
+        }
+        EXPECT_EQ(wrong, 0) << what;
+    };
+    ClickColumn(list, 1);
+    expectSorted(1, 1, "by Location, ascending");
+    EXPECT_EQ(Narrow(text(0, 1)), "C:\\Archive");
+    EXPECT_EQ(Narrow(text(0, 0)), ManyName(1));  // the first of its folder: the sort is stable
+    ClickColumn(list, 0);
+    expectSorted(0, 1, "by Name, ascending");
+    ClickColumn(list, 0);
+    expectSorted(0, -1, "by Name, descending");
+
+    // The word goes to the match at the selected row's position; the row's own file opens.
+    const int row = 12345;
+    const std::string shown = Narrow(text(row, 0));
+    const std::string folder = Narrow(text(row, 1));
+    SelectRow(list, row);
+    Button_SetCheck(GetDlgItem(form, kMatchesAssociateId), BST_CHECKED);
+    ClickButton(form, kMatchesOpenId);
+    ASSERT_EQ(shell_.opened.size(), 1u);
+    EXPECT_EQ(shell_.opened[0].file, folder + "\\" + shown);
+    EXPECT_EQ(shell_.opened[0].workingFolder, folder);
+    const clsItem* assigned = index_->Words().Item("MANY");
+    ASSERT_NE(assigned, nullptr);
+    EXPECT_EQ(assigned->Filename, ManyName(row));
+    EXPECT_FALSE(IsWindow(form));
+}
+
 }  // namespace
 }  // namespace quorin
