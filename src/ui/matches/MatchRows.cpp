@@ -27,6 +27,10 @@ std::string SortKeyOf(const std::wstring& text) {
 
 }  // namespace
 
+MatchRows::~MatchRows() {
+    stopNameKeys_ = true;
+}
+
 void MatchRows::Fill(const MatchList& matches,
                      const std::function<std::string(int32_t)>& folderPath) {
     matches_ = &matches;
@@ -46,6 +50,21 @@ void MatchRows::Fill(const MatchList& matches,
         directories_.push_back(directory);
         order_.push_back(position);
     }
+    StartNameKeys();
+}
+
+// Only the collection's shared, unchanging records are read on the other thread, and the
+// collection outlives the rows.
+void MatchRows::StartNameKeys() {
+    const MatchList* matches = matches_;
+    nameKeysMade_ = std::async(std::launch::async, [this, matches, count = Count()] {
+        std::vector<std::string> keys;
+        keys.reserve(static_cast<size_t>(count));
+        for (int32_t position = 1; position <= count && !stopNameKeys_; ++position) {
+            keys.push_back(SortKeyOf(Widen(matches->Filename(position))));
+        }
+        return keys;
+    });
 }
 
 std::optional<int> MatchRows::RowOf(int32_t position) const {
@@ -93,6 +112,9 @@ const std::string& MatchRows::SortKey(int32_t position, int column) const {
 
 void MatchRows::MakeSortKeys(int column) {
     if (column == MatchesSort::kName) {
+        if (nameKeysMade_.valid()) {
+            nameKeys_ = nameKeysMade_.get();
+        }
         if (nameKeys_.size() == order_.size()) {
             return;
         }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <functional>
+#include <future>
 #include <map>
 #include <optional>
 #include <string>
@@ -18,8 +20,16 @@ namespace quorin {
 // every row, and keeps what it made for the next sort.
 class MatchRows {
   public:
+    MatchRows() = default;
+    MatchRows(const MatchRows&) = delete;
+    MatchRows& operator=(const MatchRows&) = delete;
+    // Waits for the keys being made in the background, which it stops first.
+    ~MatchRows();
+
     // One row per match in collection order. Every match's folder is read here, so that a match
-    // that cannot be read ends the rows before it; the failure is thrown on.
+    // that cannot be read ends the rows before it; the failure is thrown on. Once all are read,
+    // the names' sort keys are made on another thread, so that the first sort by name finds
+    // them ready or nearly.
     void Fill(const MatchList& matches, const std::function<std::string(int32_t)>& folderPath);
 
     int Count() const { return static_cast<int>(order_.size()); }
@@ -46,12 +56,15 @@ class MatchRows {
     const FolderEntry& FolderOf(int32_t position) const;
     const std::string& SortKey(int32_t position, int column) const;
     void MakeSortKeys(int column);
+    void StartNameKeys();
 
     const MatchList* matches_ = nullptr;
     std::vector<int32_t> order_;              // by row
     std::vector<int32_t> directories_;        // by position - 1
     std::map<int32_t, FolderEntry> folders_;  // by folder number
-    std::vector<std::string> nameKeys_;       // by position - 1, made on the first sort by name
+    std::vector<std::string> nameKeys_;       // by position - 1, taken from nameKeysMade_
+    std::atomic<bool> stopNameKeys_ = false;
+    std::future<std::vector<std::string>> nameKeysMade_;  // last: it goes first, waiting
 };
 
 }  // namespace quorin
