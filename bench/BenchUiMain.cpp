@@ -5,6 +5,12 @@
 //                                              and USER objects after GOES windows
 //   quorin-bench-ui icons FOLDER WORD          the icon of every match, asked one by one from
 //                                              an icon extractor (what a fill used to cost)
+//   quorin-bench-ui answer TITLE SIGNAL OUT    for scripts/bench-ui, which times quorin.exe:
+//                                              writes "ready" to OUT, waits for the file SIGNAL,
+//                                              then for a window titled TITLE, and adds the
+//                                              moment (seconds since 1970) that window has
+//                                              answered and drawn all it had to draw. OUT, as
+//                                              the program runs on quorin.exe's Wine desktop.
 // Each command prints one JSON object; times in seconds.
 #include "ProcessStats.h"
 
@@ -180,6 +186,51 @@ int Icons(const std::string& folder, const std::string& word) {
     return 0;
 }
 
+double SecondsSince1970() {
+    FILETIME now{};
+    GetSystemTimePreciseAsFileTime(&now);
+    const ULONGLONG ticks = (static_cast<ULONGLONG>(now.dwHighDateTime) << 32) | now.dwLowDateTime;
+    constexpr ULONGLONG kTicksTo1970 = 116444736000000000ULL;  // 100 ns ticks from 1601
+    return static_cast<double>(ticks - kTicksTo1970) / 1e7;
+}
+
+// The window's thread handles sent messages only between its own, so the first answer comes once
+// the work that the key started is done; then what that work left to paint is painted, in that
+// thread, before RedrawWindow returns. The window asked for may be there already (the main
+// window, when one match opens without a window of its own): the key is given a moment to
+// arrive first.
+int Answer(const std::string& title, const std::string& signal, const std::string& out) {
+    constexpr DWORD kPatience = 600000;
+    std::FILE* file = std::fopen(out.c_str(), "w");
+    if (file == nullptr) {
+        throw Error("Cannot write " + out + ".");
+    }
+    std::fprintf(file, "ready\n");
+    std::fflush(file);
+    const std::wstring signalPath(signal.begin(), signal.end());
+    while (GetFileAttributesW(signalPath.c_str()) == INVALID_FILE_ATTRIBUTES) {
+        Sleep(1);
+    }
+    const std::wstring wideTitle(title.begin(), title.end());
+    if (FindWindowW(nullptr, wideTitle.c_str()) != nullptr) {
+        Sleep(50);
+    }
+    HWND window = nullptr;
+    for (DWORD waited = 0; window == nullptr && waited < kPatience; ++waited) {
+        window = FindWindowW(nullptr, wideTitle.c_str());
+        if (window == nullptr) {
+            Sleep(1);
+        }
+    }
+    DWORD_PTR result = 0;
+    SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, kPatience, &result);
+    RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, kPatience, &result);
+    std::fprintf(file, "%.3f\n", SecondsSince1970());
+    std::fclose(file);
+    return 0;
+}
+
 int Run(const std::vector<std::string>& args) {
     const auto command = args.empty() ? std::string() : args[0];
     if (command == "matches" && args.size() == 4) {
@@ -188,7 +239,12 @@ int Run(const std::vector<std::string>& args) {
     if (command == "icons" && args.size() == 3) {
         return Icons(args[1], args[2]);
     }
-    std::fprintf(stderr, "usage: quorin-bench-ui matches FOLDER WORD GOES | icons FOLDER WORD\n");
+    if (command == "answer" && args.size() == 4) {
+        return Answer(args[1], args[2], args[3]);
+    }
+    std::fprintf(stderr,
+                 "usage: quorin-bench-ui matches FOLDER WORD GOES | icons FOLDER WORD |\n"
+                 "       answer TITLE SIGNAL OUT\n");
     return 2;
 }
 
