@@ -66,8 +66,12 @@ std::optional<int> ctlIconExtractor::AddIcon(const std::string& IconLocation, st
     if (!IconLocation.empty()) {
         ParseIconLocation(IconLocation, FilePath, IconIndex);
     }
+    // At the size the host shows it: the file's own picture of that size, not one scaled from
+    // another. A negative index names a resource, as for ExtractIconEx.
+    const int size = IconPixels();
     HICON small = nullptr;
-    const UINT extracted = ExtractIconExW(Widen(FilePath).c_str(), IconIndex, nullptr, &small, 1);
+    const UINT extracted = PrivateExtractIconsW(Widen(FilePath).c_str(), IconIndex, size, size,
+                                                &small, nullptr, 1, LR_DEFAULTCOLOR);
     // A failed call may leave anything in `small`.
     const UniqueIcon icon(extracted != 0 && extracted != UINT_MAX ? small : nullptr);
     DrawOnSurface(icon.get());
@@ -134,6 +138,18 @@ std::optional<int> ctlIconExtractor::TypeIcon(const std::string& key) {
     std::string filePath;
     int iconIndex = 0;
     return AddIcon(iconLocation, filePath, iconIndex);
+}
+
+// The icon size of the list whose entry is returned, the system's small icon size without one;
+// at most the surface.
+int ctlIconExtractor::IconPixels() const {
+    const HIMAGELIST list = imageListLarge_ != nullptr ? imageListLarge_ : imageListSmall_;
+    int width = GetSystemMetrics(SM_CXSMICON);
+    int height = width;
+    if (list != nullptr) {
+        ImageList_GetIconSize(list, &width, &height);
+    }
+    return std::min(width, kSurfaceSize);
 }
 
 // The icon at its own size in the top-left corner, over the list views' background colour.

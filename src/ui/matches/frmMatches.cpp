@@ -17,6 +17,7 @@
 #include "ui/WindowClass.h"
 #include "ui/WindowText.h"
 #include "ui/matches/MatchesLayout.h"
+#include "ui/matches/MatchesPlace.h"
 
 namespace quorin {
 namespace {
@@ -83,6 +84,7 @@ frmMatches& frmMatches::Load(const MatchesHost& host) {
     const int dpi = ScreenDpi();
     const HWND window = CreateHandle(kMatchesClass,
                                      {.title = "Multiple Matches",
+                                      .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
                                       .width = TwipsToPixels(kMatchesDesignedSize.width, dpi),
                                       .height = TwipsToPixels(kMatchesDesignedSize.height, dpi)},
                                      &creation);
@@ -185,6 +187,9 @@ void frmMatches::Form_Resize() {
     Place(lvwItems, layout.lvwItems, dpi_);
     Place(cmdOpen, layout.cmdOpen, dpi_);
     Place(chkAssociate, layout.chkAssociate, dpi_);
+    // A control moved into ground that was uncovered only now is not always drawn again, nor
+    // are the list header's old dividers taken away: everything is drawn afresh.
+    RedrawWindow(hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 // A minimized window saves its minimized place and size like any other.
@@ -253,10 +258,38 @@ LRESULT frmMatches::OnNotify(const NMHDR& header) {
             ShowRow(
                 const_cast<NMLVDISPINFOW&>(reinterpret_cast<const NMLVDISPINFOW&>(header)).item);
             break;
+        case NM_CUSTOMDRAW:
+            return DrawRow(
+                const_cast<NMLVCUSTOMDRAW&>(reinterpret_cast<const NMLVCUSTOMDRAW&>(header)));
         default:
             break;
     }
     return 0;
+}
+
+// The list draws a selected row that lacks the focus in the button face colour, which on a white
+// list hardly shows; it is drawn in a pale shade of the selection colour instead. Clearing the
+// row's selected state for this drawing is what lets the list use the colours given here.
+LRESULT frmMatches::DrawRow(NMLVCUSTOMDRAW& draw) const {
+    if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) {
+        return CDRF_NOTIFYITEMDRAW;
+    }
+    if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT || GetFocus() == lvwItems) {
+        return CDRF_DODEFAULT;
+    }
+    const int row = static_cast<int>(draw.nmcd.dwItemSpec);
+    if (ListView_GetItemState(lvwItems, row, LVIS_SELECTED) == 0) {
+        return CDRF_DODEFAULT;
+    }
+    const COLORREF selection = GetSysColor(COLOR_HIGHLIGHT);
+    const COLORREF window = GetSysColor(COLOR_WINDOW);
+    const auto mix = [](BYTE a, BYTE b) { return static_cast<BYTE>((a + 3 * b) / 4); };
+    draw.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
+    draw.clrTextBk = RGB(mix(GetRValue(selection), GetRValue(window)),
+                         mix(GetGValue(selection), GetGValue(window)),
+                         mix(GetBValue(selection), GetBValue(window)));
+    draw.clrText = GetSysColor(COLOR_WINDOWTEXT);
+    return CDRF_DODEFAULT;
 }
 
 // The dialog manager turns Enter into a click of Open and Escape into IDCANCEL; Enter in the list
@@ -306,16 +339,29 @@ void frmMatches::ApplyFont() {
     font_ = std::move(font);
 }
 
+// A saved place is kept inside a monitor's work area, whatever screen or DPI it was saved on;
+// without one the window comes up in the middle of the screen the user typed the word on.
 void frmMatches::RestorePlace() {
     const auto read = [this](std::string_view key) {
         // Anything but a whole number counts as never saved.
         return ParseWholeNumber(host_->settings.Get(kSection, key, "0")).value_or(0);
     };
     const int width = read("Width");
+    RECT place{};
     if (width >= 1) {
-        MoveWindow(hwnd(), TwipsToPixels(read("Left"), dpi_), TwipsToPixels(read("Top"), dpi_),
-                   TwipsToPixels(width, dpi_), TwipsToPixels(read("Height"), dpi_), FALSE);
+        const int left = TwipsToPixels(read("Left"), dpi_);
+        const int top = TwipsToPixels(read("Top"), dpi_);
+        const RECT saved{left, top, left + TwipsToPixels(width, dpi_),
+                         top + TwipsToPixels(read("Height"), dpi_)};
+        place = KeptInside(saved, WorkAreaNear(saved));
+    } else {
+        RECT frame{};
+        GetWindowRect(hwnd(), &frame);
+        place = CentredIn({frame.right - frame.left, frame.bottom - frame.top},
+                          WorkAreaOf(GetForegroundWindow()));
     }
+    MoveWindow(hwnd(), place.left, place.top, place.right - place.left, place.bottom - place.top,
+               FALSE);
 }
 
 void frmMatches::ShowRow(LVITEMW& item) {

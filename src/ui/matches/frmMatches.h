@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <functional>
 #include <optional>
 #include <string>
@@ -82,6 +84,7 @@ class frmMatches final : public Window {
     void ApplyFont();
     void RestorePlace();
     void ShowRow(LVITEMW& item);
+    LRESULT DrawRow(NMLVCUSTOMDRAW& draw) const;
     std::optional<int> RowImage(int row);
     void SelectRow(int row);
     std::optional<int> SelectedRow() const;

@@ -86,6 +86,28 @@ TwipsSize OuterTwips(HWND window) {
             PixelsToTwips(frame.bottom - frame.top, dpi)};
 }
 
+RECT ControlRect(HWND form, int id) {
+    RECT control{};
+    GetWindowRect(GetDlgItem(form, id), &control);
+    MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&control), 2);
+    return control;
+}
+
+// The height the control's text takes, wrapped at the control's width, in its own font.
+int TextHeight(HWND control) {
+    RECT area{};
+    GetClientRect(control, &area);
+    const HDC dc = GetDC(control);
+    const HGDIOBJ old =
+        SelectObject(dc, reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0)));
+    wchar_t text[200] = {};
+    GetWindowTextW(control, text, 200);
+    DrawTextW(dc, text, -1, &area, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+    SelectObject(dc, old);
+    ReleaseDC(control, dc);
+    return area.bottom - area.top;
+}
+
 class MatchesWindowTest : public ::testing::Test {
   protected:
     MatchesWindowTest() {
@@ -273,14 +295,50 @@ TEST_F(MatchesWindowTest, KeepsItsPlaceInTwipsAndNeverGetsSmallerThan3000) {
     EXPECT_LT(OuterTwips(restored).width, 3000 + 15);
     RECT client{};
     GetClientRect(restored, &client);
-    for (int id : {kMatchesListId, kMatchesOpenId, kMatchesAssociateId}) {
-        RECT control{};
-        GetWindowRect(GetDlgItem(restored, id), &control);
-        MapWindowPoints(nullptr, restored, reinterpret_cast<POINT*>(&control), 2);
+    for (int id : {kMatchesLabelId, kMatchesListId, kMatchesOpenId, kMatchesAssociateId}) {
+        const RECT control = ControlRect(restored, id);
         EXPECT_LE(control.right, client.right) << id;
         EXPECT_LE(control.bottom, client.bottom) << id;
     }
+    // Nothing overlaps, and the count fits its label.
+    const RECT label = ControlRect(restored, kMatchesLabelId);
+    const RECT list = ControlRect(restored, kMatchesListId);
+    const RECT check = ControlRect(restored, kMatchesAssociateId);
+    const RECT open = ControlRect(restored, kMatchesOpenId);
+    EXPECT_LE(label.bottom, list.top);
+    EXPECT_LE(list.bottom, open.top);
+    EXPECT_LE(check.right, open.left);
+    EXPECT_LE(TextHeight(GetDlgItem(restored, kMatchesLabelId)), label.bottom - label.top);
     DestroyWindow(restored);
+}
+
+TEST_F(MatchesWindowTest, ComesUpInsideTheScreensWorkArea) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    const RECT work = monitor.rcWork;
+
+    // Never saved: in the middle of the screen.
+    const HWND centred = Load();
+    RECT frame{};
+    GetWindowRect(centred, &frame);
+    EXPECT_NEAR(frame.left - work.left, work.right - frame.right, 1);
+    EXPECT_NEAR(frame.top - work.top, work.bottom - frame.bottom, 1);
+    DestroyWindow(centred);
+
+    // Saved partly beyond the bottom right corner, as a place saved at another DPI can be.
+    const int dpi = ScreenDpi();
+    settings_.Save("Matches", "Left", std::to_string(PixelsToTwips(work.right - 100, dpi)));
+    settings_.Save("Matches", "Top", std::to_string(PixelsToTwips(work.bottom - 50, dpi)));
+    settings_.Save("Matches", "Width", "6000");
+    settings_.Save("Matches", "Height", "4500");
+    const HWND moved = Load();
+    GetWindowRect(moved, &frame);
+    EXPECT_EQ(frame.right, work.right);
+    EXPECT_EQ(frame.bottom, work.bottom);
+    EXPECT_NEAR(OuterTwips(moved).width, 6000, 15);
+    EXPECT_NEAR(OuterTwips(moved).height, 4500, 15);
+    DestroyWindow(moved);
 }
 
 TEST_F(MatchesWindowTest, AMinimizedWindowSavesItsMinimizedPlace) {
