@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <numeric>
 
 #include "platform/Text.h"
 
@@ -25,19 +26,48 @@ std::string SortKeyOf(const std::wstring& text) {
     return key;
 }
 
+// Each key's place among the keys, equal keys sharing one.
+std::vector<int32_t> RanksOf(const std::vector<std::string>& keys) {
+    std::vector<int32_t> order(keys.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::sort(order.begin(), order.end(), [&keys](int32_t a, int32_t b) {
+        return keys[static_cast<size_t>(a)] < keys[static_cast<size_t>(b)];
+    });
+    std::vector<int32_t> ranks(keys.size());
+    int32_t rank = 0;
+    for (size_t i = 0; i < order.size(); ++i) {
+        if (i > 0 &&
+            keys[static_cast<size_t>(order[i])] != keys[static_cast<size_t>(order[i - 1])]) {
+            ++rank;
+        }
+        ranks[static_cast<size_t>(order[i])] = rank;
+    }
+    return ranks;
+}
+
+// The ranks of the names of the first `count` matches, by position - 1; fewer when stopped.
+std::vector<int32_t> NameRanks(const MatchList& matches, int32_t count,
+                               const std::atomic<bool>& stop) {
+    std::vector<std::string> keys;
+    keys.reserve(static_cast<size_t>(count));
+    for (int32_t position = 1; position <= count; ++position) {
+        if (stop) {
+            return {};
+        }
+        keys.push_back(SortKeyOf(Widen(matches.Filename(position))));
+    }
+    return RanksOf(keys);
+}
+
 }  // namespace
 
 MatchRows::~MatchRows() {
-    stopNameKeys_ = true;
+    stopNameRanks_ = true;
 }
 
 void MatchRows::Fill(const MatchList& matches,
                      const std::function<std::string(int32_t)>& folderPath) {
     matches_ = &matches;
-    order_.clear();
-    directories_.clear();
-    folders_.clear();
-    nameKeys_.clear();
     order_.reserve(static_cast<size_t>(matches.Count()));
     directories_.reserve(static_cast<size_t>(matches.Count()));
     for (int32_t position = 1; position <= matches.Count(); ++position) {
@@ -45,25 +75,19 @@ void MatchRows::Fill(const MatchList& matches,
         if (!folders_.contains(directory)) {
             std::string path = folderPath(directory);
             std::wstring text = Widen(path);
-            folders_.emplace(directory, FolderEntry{std::move(path), std::move(text), {}});
+            folders_.emplace(directory, FolderEntry{std::move(path), std::move(text), 0});
         }
         directories_.push_back(directory);
         order_.push_back(position);
     }
-    StartNameKeys();
+    StartNameRanks();
 }
 
 // Only the collection's shared, unchanging records are read on the other thread, and the
 // collection outlives the rows.
-void MatchRows::StartNameKeys() {
-    const MatchList* matches = matches_;
-    nameKeysMade_ = std::async(std::launch::async, [this, matches, count = Count()] {
-        std::vector<std::string> keys;
-        keys.reserve(static_cast<size_t>(count));
-        for (int32_t position = 1; position <= count && !stopNameKeys_; ++position) {
-            keys.push_back(SortKeyOf(Widen(matches->Filename(position))));
-        }
-        return keys;
+void MatchRows::StartNameRanks() {
+    nameRanksMade_ = std::async(std::launch::async, [this, matches = matches_, count = Count()] {
+        return NameRanks(*matches, count, stopNameRanks_);
     });
 }
 
@@ -85,19 +109,20 @@ std::wstring MatchRows::Text(int row, int column) const {
     return column == MatchesSort::kName ? Widen(Filename(row)) : FolderOf(Position(row)).text;
 }
 
-// Each row's key is looked up once, not at every comparison.
+// The rows are sorted by each text's rank among the column's texts, which the first sort by the
+// column works out: a sort itself only compares numbers.
 void MatchRows::Sort(int column, MatchesSortOrder order) {
-    MakeSortKeys(column);
-    std::vector<std::pair<const std::string*, int32_t>> keyed;
-    keyed.reserve(order_.size());
+    MakeRanks(column);
+    std::vector<std::pair<int32_t, int32_t>> ranked;  // rank, position
+    ranked.reserve(order_.size());
     for (const int32_t position : order_) {
-        keyed.emplace_back(&SortKey(position, column), position);
+        ranked.emplace_back(Rank(position, column), position);
     }
     const bool descending = order == MatchesSortOrder::Descending;
-    std::stable_sort(keyed.begin(), keyed.end(), [descending](const auto& a, const auto& b) {
-        return descending ? *b.first < *a.first : *a.first < *b.first;
+    std::stable_sort(ranked.begin(), ranked.end(), [descending](const auto& a, const auto& b) {
+        return descending ? b.first < a.first : a.first < b.first;
     });
-    std::transform(keyed.begin(), keyed.end(), order_.begin(),
+    std::transform(ranked.begin(), ranked.end(), order_.begin(),
                    [](const auto& row) { return row.second; });
 }
 
@@ -105,31 +130,35 @@ const MatchRows::FolderEntry& MatchRows::FolderOf(int32_t position) const {
     return folders_.at(directories_.at(static_cast<size_t>(position - 1)));
 }
 
-const std::string& MatchRows::SortKey(int32_t position, int column) const {
-    return column == MatchesSort::kName ? nameKeys_[static_cast<size_t>(position - 1)]
-                                        : FolderOf(position).sortKey;
+int32_t MatchRows::Rank(int32_t position, int column) const {
+    return column == MatchesSort::kName ? nameRanks_[static_cast<size_t>(position - 1)]
+                                        : FolderOf(position).rank;
 }
 
-void MatchRows::MakeSortKeys(int column) {
+void MatchRows::MakeRanks(int column) {
     if (column == MatchesSort::kName) {
-        if (nameKeysMade_.valid()) {
-            nameKeys_ = nameKeysMade_.get();
+        if (nameRanksMade_.valid()) {
+            nameRanks_ = nameRanksMade_.get();
         }
-        if (nameKeys_.size() == order_.size()) {
-            return;
-        }
-        nameKeys_.resize(order_.size());
-        for (const int32_t position : order_) {
-            nameKeys_[static_cast<size_t>(position - 1)] =
-                SortKeyOf(Widen(matches_->Filename(position)));
+        if (nameRanks_.size() != order_.size()) {  // the thread was stopped, or never started
+            const std::atomic<bool> goOn = false;
+            nameRanks_ = NameRanks(*matches_, Count(), goOn);
         }
         return;
     }
-    for (auto& [directory, folder] : folders_) {
-        if (folder.sortKey.empty()) {
-            folder.sortKey = SortKeyOf(folder.text);
-        }
+    if (foldersRanked_) {
+        return;
     }
+    std::vector<std::string> keys;
+    for (const auto& [directory, folder] : folders_) {
+        keys.push_back(SortKeyOf(folder.text));
+    }
+    const std::vector<int32_t> ranks = RanksOf(keys);
+    auto rank = ranks.begin();
+    for (auto& [directory, folder] : folders_) {
+        folder.rank = *rank++;
+    }
+    foldersRanked_ = true;
 }
 
 }  // namespace quorin

@@ -23,13 +23,13 @@ class MatchRows {
     MatchRows() = default;
     MatchRows(const MatchRows&) = delete;
     MatchRows& operator=(const MatchRows&) = delete;
-    // Waits for the keys being made in the background, which it stops first.
+    // Waits for the ranking in the background, which it stops first.
     ~MatchRows();
 
-    // One row per match in collection order. Every match's folder is read here, so that a match
-    // that cannot be read ends the rows before it; the failure is thrown on. Once all are read,
-    // the names' sort keys are made on another thread, so that the first sort by name finds
-    // them ready or nearly.
+    // Once: one row per match in collection order. Every match's folder is read here, so that a
+    // match that cannot be read ends the rows before it; the failure is thrown on. Once all are
+    // read, the names are ranked on another thread, so that the first sort by name finds the ranks
+    // ready or nearly.
     void Fill(const MatchList& matches, const std::function<std::string(int32_t)>& folderPath);
 
     int Count() const { return static_cast<int>(order_.size()); }
@@ -50,21 +50,22 @@ class MatchRows {
     struct FolderEntry {
         std::string path;
         std::wstring text;
-        std::string sortKey;  // made on the first sort by folder
+        int32_t rank;  // among the folders, made on the first sort by folder
     };
 
     const FolderEntry& FolderOf(int32_t position) const;
-    const std::string& SortKey(int32_t position, int column) const;
-    void MakeSortKeys(int column);
-    void StartNameKeys();
+    int32_t Rank(int32_t position, int column) const;
+    void MakeRanks(int column);
+    void StartNameRanks();
 
     const MatchList* matches_ = nullptr;
     std::vector<int32_t> order_;              // by row
     std::vector<int32_t> directories_;        // by position - 1
     std::map<int32_t, FolderEntry> folders_;  // by folder number
-    std::vector<std::string> nameKeys_;       // by position - 1, taken from nameKeysMade_
-    std::atomic<bool> stopNameKeys_ = false;
-    std::future<std::vector<std::string>> nameKeysMade_;  // last: it goes first, waiting
+    bool foldersRanked_ = false;
+    std::vector<int32_t> nameRanks_;  // by position - 1, taken from nameRanksMade_
+    std::atomic<bool> stopNameRanks_ = false;
+    std::future<std::vector<int32_t>> nameRanksMade_;  // last: it goes first, waiting
 };
 
 }  // namespace quorin

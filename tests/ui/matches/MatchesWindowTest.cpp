@@ -27,7 +27,7 @@ namespace {
 // Three files match "plan": a registered type, an unknown one and a program.
 constexpr char kIndexFile[] =
     "2023-03-15 12:00:00\r\n 3\r\nC:\\Work\r\nC:\\Archive\r\nC:\\Music\r\n"
-    " 0\r\nPlan B.qzt\r\n 1\r\nplan a.qzx\r\n 1\r\nother.txt\r\n 2\r\nPlans.exe\r\n";
+    " 0\r\nPlan B.qzp\r\n 1\r\nplan a.qzx\r\n 1\r\nother.txt\r\n 2\r\nPlans.exe\r\n";
 
 std::vector<std::string> Column(HWND list, int column) {
     std::vector<std::string> texts;
@@ -111,7 +111,7 @@ int TextHeight(HWND control) {
 class MatchesWindowTest : public ::testing::Test {
   protected:
     MatchesWindowTest() {
-        classes_.RegisterType(".qzt", "QuorinTest.Plan", "Quorin plan",
+        classes_.RegisterType(".qzp", "QuorinTest.Plan", "Quorin plan",
                               "%SystemRoot%\\system32\\shell32.dll,-152");
         program_.WriteFile("index.txt", kIndexFile);
         index_ = std::make_unique<clsIndex>(
@@ -155,7 +155,7 @@ TEST_F(MatchesWindowTest, ListsTheMatchesInCollectionOrderWithTheFirstSelected) 
     GetWindowTextW(form, text, 200);
     EXPECT_EQ(Narrow(text), "Multiple Matches");
 
-    EXPECT_EQ(Column(list, 0), (std::vector<std::string>{"Plan B.qzt", "plan a.qzx", "Plans.exe"}));
+    EXPECT_EQ(Column(list, 0), (std::vector<std::string>{"Plan B.qzp", "plan a.qzx", "Plans.exe"}));
     EXPECT_EQ(Column(list, 1), (std::vector<std::string>{"C:\\Work", "C:\\Archive", "C:\\Music"}));
     EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_SELECTED), 0);
     EXPECT_EQ(ListView_GetNextItem(list, 0, LVNI_SELECTED), -1);
@@ -182,12 +182,12 @@ TEST_F(MatchesWindowTest, ColumnClicksSortByTheColumnsTextWithoutRegardToCase) {
     using Names = std::vector<std::string>;
 
     ClickColumn(list, 0);  // the list starts keyed on "Name", ascending: this flips it
-    EXPECT_EQ(Column(list, 0), (Names{"Plans.exe", "Plan B.qzt", "plan a.qzx"}));
+    EXPECT_EQ(Column(list, 0), (Names{"Plans.exe", "Plan B.qzp", "plan a.qzx"}));
     ClickColumn(list, 0);
-    EXPECT_EQ(Column(list, 0), (Names{"plan a.qzx", "Plan B.qzt", "Plans.exe"}));
+    EXPECT_EQ(Column(list, 0), (Names{"plan a.qzx", "Plan B.qzp", "Plans.exe"}));
     ClickColumn(list, 1);
     EXPECT_EQ(Column(list, 1), (Names{"C:\\Archive", "C:\\Music", "C:\\Work"}));
-    EXPECT_EQ(Column(list, 0), (Names{"plan a.qzx", "Plans.exe", "Plan B.qzt"}));
+    EXPECT_EQ(Column(list, 0), (Names{"plan a.qzx", "Plans.exe", "Plan B.qzp"}));
     ClickColumn(list, 1);
     EXPECT_EQ(Column(list, 1), (Names{"C:\\Work", "C:\\Music", "C:\\Archive"}));
     DestroyWindow(form);
@@ -202,7 +202,7 @@ TEST_F(MatchesWindowTest, AssociationGoesToTheRowsPositionWhileTheRowsOwnFileOpe
     EXPECT_FALSE(IsWindow(plain));
 
     const HWND form = Load();
-    ClickColumn(List(form), 0);  // rows: Plans.exe, Plan B.qzt, plan a.qzx
+    ClickColumn(List(form), 0);  // rows: Plans.exe, Plan B.qzp, plan a.qzx
     SelectRow(List(form), 2);
     Button_SetCheck(GetDlgItem(form, kMatchesAssociateId), BST_CHECKED);
     ClickButton(form, kMatchesOpenId);
