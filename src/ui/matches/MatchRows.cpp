@@ -45,25 +45,7 @@ std::vector<int32_t> RanksOf(const std::vector<std::string>& keys) {
     return ranks;
 }
 
-// The ranks of the names of the first `count` matches, by position - 1; fewer when stopped.
-std::vector<int32_t> NameRanks(const MatchList& matches, int32_t count,
-                               const std::atomic<bool>& stop) {
-    std::vector<std::string> keys;
-    keys.reserve(static_cast<size_t>(count));
-    for (int32_t position = 1; position <= count; ++position) {
-        if (stop) {
-            return {};
-        }
-        keys.push_back(SortKeyOf(Widen(matches.Filename(position))));
-    }
-    return RanksOf(keys);
-}
-
 }  // namespace
-
-MatchRows::~MatchRows() {
-    stopNameRanks_ = true;
-}
 
 void MatchRows::Fill(const MatchList& matches,
                      const std::function<std::string(int32_t)>& folderPath) {
@@ -80,15 +62,28 @@ void MatchRows::Fill(const MatchList& matches,
         directories_.push_back(directory);
         order_.push_back(position);
     }
-    StartNameRanks();
 }
 
-// Only the collection's shared, unchanging records are read on the other thread, and the
-// collection outlives the rows.
-void MatchRows::StartNameRanks() {
-    nameRanksMade_ = std::async(std::launch::async, [this, matches = matches_, count = Count()] {
-        return NameRanks(*matches, count, stopNameRanks_);
-    });
+// The sort keys come first, a name at a time; ranking them is one step at the end.
+bool MatchRows::RankNames(std::chrono::milliseconds budget) {
+    return RankNamesUntil(std::chrono::steady_clock::now() + budget);
+}
+
+bool MatchRows::RankNamesUntil(std::chrono::steady_clock::time_point end) {
+    if (nameRanks_.size() == order_.size()) {
+        return true;
+    }
+    nameKeys_.reserve(order_.size());
+    while (nameKeys_.size() < order_.size()) {
+        const auto position = static_cast<int32_t>(nameKeys_.size() + 1);
+        nameKeys_.push_back(SortKeyOf(Widen(matches_->Filename(position))));
+        if (nameKeys_.size() % 256 == 0 && std::chrono::steady_clock::now() >= end) {
+            return false;
+        }
+    }
+    nameRanks_ = RanksOf(nameKeys_);
+    nameKeys_ = {};
+    return true;
 }
 
 std::optional<int> MatchRows::RowOf(int32_t position) const {
@@ -137,13 +132,7 @@ int32_t MatchRows::Rank(int32_t position, int column) const {
 
 void MatchRows::MakeRanks(int column) {
     if (column == MatchesSort::kName) {
-        if (nameRanksMade_.valid()) {
-            nameRanks_ = nameRanksMade_.get();
-        }
-        if (nameRanks_.size() != order_.size()) {  // the thread was stopped, or never started
-            const std::atomic<bool> goOn = false;
-            nameRanks_ = NameRanks(*matches_, Count(), goOn);
-        }
+        RankNamesUntil(std::chrono::steady_clock::time_point::max());
         return;
     }
     if (foldersRanked_) {

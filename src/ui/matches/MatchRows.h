@@ -1,9 +1,8 @@
 #pragma once
 
-#include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <functional>
-#include <future>
 #include <map>
 #include <optional>
 #include <string>
@@ -20,17 +19,13 @@ namespace quorin {
 // every row, and keeps what it made for the next sort.
 class MatchRows {
   public:
-    MatchRows() = default;
-    MatchRows(const MatchRows&) = delete;
-    MatchRows& operator=(const MatchRows&) = delete;
-    // Waits for the ranking in the background, which it stops first.
-    ~MatchRows();
-
     // Once: one row per match in collection order. Every match's folder is read here, so that a
-    // match that cannot be read ends the rows before it; the failure is thrown on. Once all are
-    // read, the names are ranked on another thread, so that the first sort by name finds the ranks
-    // ready or nearly.
+    // match that cannot be read ends the rows before it; the failure is thrown on.
     void Fill(const MatchList& matches, const std::function<std::string(int32_t)>& folderPath);
+
+    // Works on ranking the names for about `budget`, so that a window can do it while it waits
+    // for the user and the first sort by name finds it done; true once it is.
+    bool RankNames(std::chrono::milliseconds budget);
 
     int Count() const { return static_cast<int>(order_.size()); }
 
@@ -56,16 +51,15 @@ class MatchRows {
     const FolderEntry& FolderOf(int32_t position) const;
     int32_t Rank(int32_t position, int column) const;
     void MakeRanks(int column);
-    void StartNameRanks();
+    bool RankNamesUntil(std::chrono::steady_clock::time_point end);
 
     const MatchList* matches_ = nullptr;
     std::vector<int32_t> order_;              // by row
     std::vector<int32_t> directories_;        // by position - 1
     std::map<int32_t, FolderEntry> folders_;  // by folder number
     bool foldersRanked_ = false;
-    std::vector<int32_t> nameRanks_;  // by position - 1, taken from nameRanksMade_
-    std::atomic<bool> stopNameRanks_ = false;
-    std::future<std::vector<int32_t>> nameRanksMade_;  // last: it goes first, waiting
+    std::vector<std::string> nameKeys_;  // by position - 1, while the names are being ranked
+    std::vector<int32_t> nameRanks_;     // by position - 1, once they are
 };
 
 }  // namespace quorin

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include <chrono>
 #include <utility>
 
 #include "index/clsIndex.h"
@@ -31,6 +32,9 @@ constexpr int kLocationColumnTwips = 3800;
 // since opening a row destroys the list.
 constexpr UINT kListDoubleClick = WM_APP + 1;
 constexpr UINT kListKeyPress = WM_APP + 2;
+
+constexpr UINT_PTR kRankNamesTimer = 1;
+constexpr std::chrono::milliseconds kRankNamesStep{8};
 
 void RegisterMatchesClass() {
     static const ATOM atom = [] {
@@ -113,6 +117,15 @@ void frmMatches::Matches(MatchList matches) {
     }
     ListView_SetItemCount(lvwItems, rows_.Count());
     SelectRow(0);
+    // The names are ranked for sorting while the user looks at the list: a timer's turn comes
+    // after input and painting.
+    SetTimer(hwnd(), kRankNamesTimer, USER_TIMER_MINIMUM, nullptr);
+}
+
+void frmMatches::OnTimer(UINT_PTR id) {
+    if (id == kRankNamesTimer && rows_.RankNames(kRankNamesStep)) {
+        KillTimer(hwnd(), kRankNamesTimer);
+    }
 }
 
 LRESULT frmMatches::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -68,6 +68,7 @@ class frmMatches final : public Window {
     void OnDestroy() override { Form_Unload(); }
     void OnSize(UINT, int, int) override { Form_Resize(); }
     void OnCommand(int id, int code, HWND control) override;
+    void OnTimer(UINT_PTR id) override;
     LRESULT OnNotify(const NMHDR& header) override;
     void OnDpiChanged(int dpi, const RECT& suggested) override;
 
