@@ -5,6 +5,9 @@
 //                                              second after it filled, the second at once),
 //                                              memory, and the GDI and USER objects and the
 //                                              windows after GOES windows
+//   quorin-bench-ui search FOLDER WORD RUNS    FindMatch alone, with a shown progress bar set
+//                                              the paced way the main window sets it, and with
+//                                              the bar set at every value; medians
 //   quorin-bench-ui icons FOLDER WORD          the icon of every match, asked one by one from
 //                                              an icon extractor (what a fill used to cost)
 //   quorin-bench-ui answer TITLE SIGNAL OUT    for scripts/bench-ui, which times quorin.exe:
@@ -20,8 +23,10 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <iostream>
 #include <memory>
 #include <optional>
@@ -35,6 +40,7 @@
 #include "platform/Errors.h"
 #include "platform/MemorySettingsStore.h"
 #include "platform/Shell.h"
+#include "ui/PacedProgress.h"
 #include "ui/matches/ctlIconExtractor.h"
 #include "ui/matches/frmMatches.h"
 
@@ -199,6 +205,63 @@ int Icons(const std::string& folder, const std::string& word) {
     return 0;
 }
 
+// The main window's search bar as a test sees it: a shown progress bar, set through PacedProgress
+// as the main window sets it, or at every value as it once was.
+class BarProgress final : public SearchProgress {
+  public:
+    BarProgress(HWND bar, bool paced) : bar_(bar), paced_(paced) {}
+    void Show(int maximum) override {
+        pace_.Start(bar_, maximum);
+        ShowWindow(bar_, SW_SHOW);
+    }
+    void SetValue(int value) override {
+        if (paced_) {
+            pace_.Set(bar_, value);
+        } else {
+            SendMessageW(bar_, PBM_SETPOS, static_cast<WPARAM>(value), 0);
+        }
+    }
+    void Hide() override { ShowWindow(bar_, SW_HIDE); }
+
+  private:
+    HWND bar_;
+    bool paced_;
+    PacedProgress pace_;
+};
+
+double MedianSeconds(int runs, const std::function<void()>& work) {
+    std::vector<double> times;
+    for (int run = 0; run < runs; ++run) {
+        const double start = Now();
+        work();
+        times.push_back(Now() - start);
+        HandleAllMessages();
+    }
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+}
+
+int Search(const std::string& folder, const std::string& word, int runs) {
+    Engine engine(folder);
+    const HWND frame = CreateWindowExW(0, L"STATIC", L"Search", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                                       100, 100, 400, 120, nullptr, nullptr, nullptr, nullptr);
+    const HWND bar = CreateWindowExW(0, PROGRESS_CLASSW, L"", WS_CHILD, 10, 40, 360, 16, frame,
+                                     nullptr, nullptr, nullptr);
+    HandleAllMessages();
+    BarProgress paced(bar, true);
+    BarProgress everyValue(bar, false);
+    const double alone = MedianSeconds(runs, [&] { engine.Index().FindMatch(word); });
+    const double withPaced = MedianSeconds(runs, [&] { engine.Index().FindMatch(word, &paced); });
+    const double withEvery =
+        MedianSeconds(runs, [&] { engine.Index().FindMatch(word, &everyValue); });
+    DestroyWindow(frame);
+    std::printf(
+        "{\"records\": %d, \"search_seconds\": %.4f, \"paced_bar_seconds\": %.4f, "
+        "\"bar_every_value_seconds\": %.4f}\n",
+        engine.Index().ItemCount(), alone, withPaced, withEvery);
+    return 0;
+}
+
 double SecondsSince1970() {
     FILETIME now{};
     GetSystemTimePreciseAsFileTime(&now);
@@ -249,6 +312,9 @@ int Run(const std::vector<std::string>& args) {
     if (command == "matches" && args.size() == 4) {
         return Matches(args[1], args[2], std::atoi(args[3].c_str()));
     }
+    if (command == "search" && args.size() == 4) {
+        return Search(args[1], args[2], std::atoi(args[3].c_str()));
+    }
     if (command == "icons" && args.size() == 3) {
         return Icons(args[1], args[2]);
     }
@@ -256,7 +322,8 @@ int Run(const std::vector<std::string>& args) {
         return Answer(args[1], args[2], args[3]);
     }
     std::fprintf(stderr,
-                 "usage: quorin-bench-ui matches FOLDER WORD GOES | icons FOLDER WORD |\n"
+                 "usage: quorin-bench-ui matches FOLDER WORD GOES | search FOLDER WORD RUNS |\n"
+                 "       icons FOLDER WORD |\n"
                  "       answer TITLE SIGNAL OUT\n");
     return 2;
 }
