@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "index/IndexItems.h"
@@ -19,8 +20,13 @@ class MatchList {
 
     // Position counted from 1; throws OutOfRangeError outside 1..Count().
     clsItem Item(int32_t position) const;
+    // Parts of Item for a window that shows many matches: no copy of the rest of the record.
+    std::string Filename(int32_t position) const;
+    int32_t Directory(int32_t position) const;
 
   private:
+    int32_t Record(int32_t position) const;  // throws as Item does
+
     std::shared_ptr<const IndexItems> items_;
     std::vector<int32_t> positions_;  // positions in items_
 };

@@ -188,13 +188,12 @@ void frmMain::EndIndexing() {
 }
 
 void frmMain::Show(int maximum) {
-    SendMessageW(ProgressBar1, PBM_SETRANGE32, 0, maximum);
-    SendMessageW(ProgressBar1, PBM_SETPOS, 0, 0);
+    searchProgress_.Start(ProgressBar1, maximum);
     ShowWindow(ProgressBar1, SW_SHOW);
 }
 
 void frmMain::SetValue(int value) {
-    SendMessageW(ProgressBar1, PBM_SETPOS, static_cast<WPARAM>(value), 0);
+    searchProgress_.Set(ProgressBar1, value);
 }
 
 void frmMain::Hide() {

@@ -15,6 +15,7 @@
 #include "platform/SettingsStore.h"
 #include "platform/Shell.h"
 #include "platform/WinHandles.h"
+#include "ui/PacedProgress.h"
 #include "ui/Window.h"
 #include "ui/controls/TabRow.h"
 #include "ui/controls/ctlLinkLabel.h"
@@ -168,6 +169,7 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     HWND cmdGo = nullptr;
     HWND lblFile = nullptr;
     HWND ProgressBar1 = nullptr;
+    PacedProgress searchProgress_;  // ProgressBar1's pace
     HWND lblIndexLastUpdated = nullptr;
     HWND lblLastUpdated = nullptr;
     HWND lblUpdateInterval = nullptr;

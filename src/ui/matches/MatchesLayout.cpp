@@ -4,8 +4,8 @@ namespace quorin {
 namespace {
 
 constexpr int kMargin = 120;
-constexpr int kLabelHeight = 300;
-constexpr int kListTop = 480;
+constexpr int kLabelHeight = 420;  // two lines, for a narrow window
+constexpr int kListTop = 600;
 constexpr int kButtonWidth = 1140;
 constexpr int kButtonHeight = 375;
 
@@ -25,8 +25,7 @@ MatchesLayout ArrangeMatches(TwipsSize window) {
     const int w = window.width;
     const int h = window.height;
     MatchesLayout layout;
-    // The label keeps its designed width, as the list's width follows the window.
-    layout.Label1 = {kMargin, kMargin, kMatchesDesignedSize.width - 360, kLabelHeight};
+    layout.Label1 = {kMargin, kMargin, w - 360, kLabelHeight};
     layout.lvwItems = {kMargin, kListTop, w - 360, h - 1500};
     layout.cmdOpen = {w - 1380, h - 870, kButtonWidth, kButtonHeight};
     layout.chkAssociate = {kMargin, h - 870, w - 1560, kButtonHeight};

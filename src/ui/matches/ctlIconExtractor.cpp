@@ -44,6 +44,11 @@ std::string LookupKey(const std::string& fileName) {
     return Narrow(std::wstring_view(wide).substr(wide.size() - std::min(wide.size(), kKeyLength)));
 }
 
+// Only this case: "SETUP.EXE" is looked up by its type like any other file.
+bool IsProgram(const std::string& fileName) {
+    return fileName.ends_with(".exe");
+}
+
 }  // namespace
 
 ctlIconExtractor::ctlIconExtractor()
@@ -61,8 +66,12 @@ std::optional<int> ctlIconExtractor::AddIcon(const std::string& IconLocation, st
     if (!IconLocation.empty()) {
         ParseIconLocation(IconLocation, FilePath, IconIndex);
     }
+    // At the size the host shows it: the file's own picture of that size, not one scaled from
+    // another. A negative index names a resource, as for ExtractIconEx.
+    const int size = IconPixels();
     HICON small = nullptr;
-    const UINT extracted = ExtractIconExW(Widen(FilePath).c_str(), IconIndex, nullptr, &small, 1);
+    const UINT extracted = PrivateExtractIconsW(Widen(FilePath).c_str(), IconIndex, size, size,
+                                                &small, nullptr, 1, LR_DEFAULTCOLOR);
     // A failed call may leave anything in `small`.
     const UniqueIcon icon(extracted != 0 && extracted != UINT_MAX ? small : nullptr);
     DrawOnSurface(icon.get());
@@ -79,7 +88,7 @@ std::optional<int> ctlIconExtractor::AddIcon(const std::string& IconLocation, st
 
 std::optional<int> ctlIconExtractor::RetrieveFileIcon(const std::string& FileName,
                                                       const std::string& Path) {
-    if (FileName.ends_with(".exe")) {
+    if (IsProgram(FileName)) {
         std::string filePath = JoinPath(Path, FileName);
         int iconIndex = 0;
         return AddIcon("", filePath, iconIndex);
@@ -89,6 +98,10 @@ std::optional<int> ctlIconExtractor::RetrieveFileIcon(const std::string& FileNam
 
 std::optional<int> ctlIconExtractor::RetrieveExtIcon(const std::string& Ext) {
     return TypeIcon(Ext);
+}
+
+std::string ctlIconExtractor::ImageKey(const std::string& FileName, const std::string& Path) {
+    return IsProgram(FileName) ? JoinPath(Path, FileName) : ToUpper(LookupKey(FileName));
 }
 
 // "path,index": the first comma splits; "%SystemRoot%" (this case only) stands for the Windows
@@ -125,6 +138,18 @@ std::optional<int> ctlIconExtractor::TypeIcon(const std::string& key) {
     std::string filePath;
     int iconIndex = 0;
     return AddIcon(iconLocation, filePath, iconIndex);
+}
+
+// The icon size of the list whose entry is returned, the system's small icon size without one;
+// at most the surface.
+int ctlIconExtractor::IconPixels() const {
+    const HIMAGELIST list = imageListLarge_ != nullptr ? imageListLarge_ : imageListSmall_;
+    int width = GetSystemMetrics(SM_CXSMICON);
+    int height = width;
+    if (list != nullptr) {
+        ImageList_GetIconSize(list, &width, &height);
+    }
+    return std::min(width, kSurfaceSize);
 }
 
 // The icon at its own size in the top-left corner, over the list views' background colour.

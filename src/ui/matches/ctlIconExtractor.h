@@ -15,7 +15,8 @@ namespace quorin {
 
 // Finds the icon of a file or of a file extension the way the classes root describes it
 // (extension, file type, the type's "DefaultIcon") and adds it to the host's image lists.
-// The small icon is drawn on the extractor's own 32 x 32 surface and that picture is added,
+// The small icon, extracted at the host lists' icon size (so 24 pixels at 144 DPI when the host's
+// lists are that size), is drawn on the extractor's own 32 x 32 surface and that picture is added,
 // so the surface's background shows through the icon's transparent parts, and a failed
 // extraction still adds the blank surface. An image is its index in a host list. No image is
 // keyed, so every request extracts again and adds a new image. Nothing is ever shown to the user.
@@ -44,12 +45,17 @@ class ctlIconExtractor {
     // Ext as the classes root knows it, dot included: ".txt".
     std::optional<int> RetrieveExtIcon(const std::string& Ext);
 
+    // What RetrieveFileIcon's answer depends on, for a host that keys the images it gets back:
+    // the program's own path, or the type's key without regard to case.
+    static std::string ImageKey(const std::string& FileName, const std::string& Path);
+
   private:
     static constexpr int kSurfaceSize = 32;
 
     void ParseIconLocation(const std::string& IconLocation, std::string& FilePath,
                            int& IconIndex) const;
     std::optional<int> TypeIcon(const std::string& key);
+    int IconPixels() const;
     void DrawOnSurface(HICON icon);
     std::optional<int> AddSurfaceTo(HIMAGELIST list) const;
 

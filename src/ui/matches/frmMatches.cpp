@@ -3,10 +3,11 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include <chrono>
 #include <utility>
 
-#include "platform/LenientConversions.h"
 #include "index/clsIndex.h"
+#include "platform/LenientConversions.h"
 #include "platform/Path.h"
 #include "platform/Prompter.h"
 #include "platform/SettingsStore.h"
@@ -17,6 +18,7 @@
 #include "ui/WindowClass.h"
 #include "ui/WindowText.h"
 #include "ui/matches/MatchesLayout.h"
+#include "ui/matches/MatchesPlace.h"
 
 namespace quorin {
 namespace {
@@ -30,6 +32,9 @@ constexpr int kLocationColumnTwips = 3800;
 // since opening a row destroys the list.
 constexpr UINT kListDoubleClick = WM_APP + 1;
 constexpr UINT kListKeyPress = WM_APP + 2;
+
+constexpr UINT_PTR kRankNamesTimer = 1;
+constexpr std::chrono::milliseconds kRankNamesStep{8};
 
 void RegisterMatchesClass() {
     static const ATOM atom = [] {
@@ -83,6 +88,7 @@ frmMatches& frmMatches::Load(const MatchesHost& host) {
     const int dpi = ScreenDpi();
     const HWND window = CreateHandle(kMatchesClass,
                                      {.title = "Multiple Matches",
+                                      .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
                                       .width = TwipsToPixels(kMatchesDesignedSize.width, dpi),
                                       .height = TwipsToPixels(kMatchesDesignedSize.height, dpi)},
                                      &creation);
@@ -102,15 +108,24 @@ void frmMatches::Matches(MatchList matches) {
     UpdateWindow(hwnd());
     matches_ = std::move(matches);
     try {
-        for (int32_t position = 1; position <= matches_->Count(); ++position) {
-            AddRow(matches_->Item(position));
-        }
+        rows_.Fill(*matches_, [this](int32_t folder) { return host_->index.GetPath(folder); });
     } catch (const std::exception& error) {
         // The rows so far stay.
+        ListView_SetItemCount(lvwItems, rows_.Count());
         host_->prompter.Ask(kSection, error.what(), PromptButtons::Ok, PromptIcon::Critical);
         return;
     }
+    ListView_SetItemCount(lvwItems, rows_.Count());
     SelectRow(0);
+    // The names are ranked for sorting while the user looks at the list: a timer's turn comes
+    // after input and painting.
+    SetTimer(hwnd(), kRankNamesTimer, USER_TIMER_MINIMUM, nullptr);
+}
+
+void frmMatches::OnTimer(UINT_PTR id) {
+    if (id == kRankNamesTimer && rows_.RankNames(kRankNamesStep)) {
+        KillTimer(hwnd(), kRankNamesTimer);
+    }
 }
 
 LRESULT frmMatches::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -185,6 +200,9 @@ void frmMatches::Form_Resize() {
     Place(lvwItems, layout.lvwItems, dpi_);
     Place(cmdOpen, layout.cmdOpen, dpi_);
     Place(chkAssociate, layout.chkAssociate, dpi_);
+    // A control moved into ground that was uncovered only now is not always drawn again, nor
+    // are the list header's old dividers taken away: everything is drawn afresh.
+    RedrawWindow(hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 // A minimized window saves its minimized place and size like any other.
@@ -248,10 +266,43 @@ LRESULT frmMatches::OnNotify(const NMHDR& header) {
         case NM_RETURN:
             PostMessageW(hwnd(), kListKeyPress, VK_RETURN, 0);
             break;
+        case LVN_GETDISPINFOW:
+            // The list hands over its own item to be filled in.
+            ShowRow(
+                const_cast<NMLVDISPINFOW&>(reinterpret_cast<const NMLVDISPINFOW&>(header)).item);
+            break;
+        case NM_CUSTOMDRAW:
+            return DrawRow(
+                const_cast<NMLVCUSTOMDRAW&>(reinterpret_cast<const NMLVCUSTOMDRAW&>(header)));
         default:
             break;
     }
     return 0;
+}
+
+// The list draws a selected row that lacks the focus in the button face colour, which on a white
+// list hardly shows; it is drawn in a pale shade of the selection colour instead. Clearing the
+// row's selected state for this drawing is what lets the list use the colours given here.
+LRESULT frmMatches::DrawRow(NMLVCUSTOMDRAW& draw) const {
+    if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) {
+        return CDRF_NOTIFYITEMDRAW;
+    }
+    if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT || GetFocus() == lvwItems) {
+        return CDRF_DODEFAULT;
+    }
+    const int row = static_cast<int>(draw.nmcd.dwItemSpec);
+    if (ListView_GetItemState(lvwItems, row, LVIS_SELECTED) == 0) {
+        return CDRF_DODEFAULT;
+    }
+    const COLORREF selection = GetSysColor(COLOR_HIGHLIGHT);
+    const COLORREF window = GetSysColor(COLOR_WINDOW);
+    const auto mix = [](BYTE a, BYTE b) { return static_cast<BYTE>((a + 3 * b) / 4); };
+    draw.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
+    draw.clrTextBk = RGB(mix(GetRValue(selection), GetRValue(window)),
+                         mix(GetGValue(selection), GetGValue(window)),
+                         mix(GetBValue(selection), GetBValue(window)));
+    draw.clrText = GetSysColor(COLOR_WINDOWTEXT);
+    return CDRF_DODEFAULT;
 }
 
 // The dialog manager turns Enter into a click of Open and Escape into IDCANCEL; Enter in the list
@@ -277,16 +328,16 @@ void frmMatches::CreateControls() {
         hwnd(), L"STATIC",
         "Quorin found multiple matches for your keyword. Please choose from the following:",
         SS_LEFT | SS_NOPREFIX, kMatchesLabelId);
-    lvwItems = CreateControl(
-        hwnd(), WC_LISTVIEWW, "",
-        WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
-        kMatchesListId, WS_EX_CLIENTEDGE);
+    lvwItems = CreateControl(hwnd(), WC_LISTVIEWW, "",
+                             WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |
+                                 LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
+                             kMatchesListId, WS_EX_CLIENTEDGE);
     ListView_SetExtendedListViewStyle(lvwItems, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
     AddColumn(lvwItems, MatchesSort::kName, L"Name", TwipsToPixels(kNameColumnTwips, dpi_));
     AddColumn(lvwItems, MatchesSort::kLocation, L"Location",
               TwipsToPixels(kLocationColumnTwips, dpi_));
     chkAssociate = CreateControl(hwnd(), L"BUTTON", "Always associate this word with this item",
-                                  WS_TABSTOP | BS_AUTOCHECKBOX, kMatchesAssociateId);
+                                 WS_TABSTOP | BS_AUTOCHECKBOX, kMatchesAssociateId);
     cmdOpen =
         CreateControl(hwnd(), L"BUTTON", "Open", WS_TABSTOP | BS_DEFPUSHBUTTON, kMatchesOpenId);
 }
@@ -301,31 +352,53 @@ void frmMatches::ApplyFont() {
     font_ = std::move(font);
 }
 
+// A saved place is kept inside a monitor's work area, whatever screen or DPI it was saved on;
+// without one the window comes up in the middle of the screen the user typed the word on.
 void frmMatches::RestorePlace() {
     const auto read = [this](std::string_view key) {
         // Anything but a whole number counts as never saved.
         return ParseWholeNumber(host_->settings.Get(kSection, key, "0")).value_or(0);
     };
     const int width = read("Width");
+    RECT place{};
     if (width >= 1) {
-        MoveWindow(hwnd(), TwipsToPixels(read("Left"), dpi_), TwipsToPixels(read("Top"), dpi_),
-                   TwipsToPixels(width, dpi_), TwipsToPixels(read("Height"), dpi_), FALSE);
+        const int left = TwipsToPixels(read("Left"), dpi_);
+        const int top = TwipsToPixels(read("Top"), dpi_);
+        const RECT saved{left, top, left + TwipsToPixels(width, dpi_),
+                         top + TwipsToPixels(read("Height"), dpi_)};
+        place = KeptInside(saved, WorkAreaNear(saved));
+    } else {
+        RECT frame{};
+        GetWindowRect(hwnd(), &frame);
+        place = CentredIn({frame.right - frame.left, frame.bottom - frame.top},
+                          WorkAreaOf(GetForegroundWindow()));
+    }
+    MoveWindow(hwnd(), place.left, place.top, place.right - place.left, place.bottom - place.top,
+               FALSE);
+}
+
+void frmMatches::ShowRow(LVITEMW& item) {
+    if (item.iItem < 0 || item.iItem >= rows_.Count()) {
+        return;
+    }
+    if ((item.mask & LVIF_TEXT) != 0 && item.cchTextMax > 0) {
+        lstrcpynW(item.pszText, rows_.Text(item.iItem, item.iSubItem).c_str(), item.cchTextMax);
+    }
+    if ((item.mask & LVIF_IMAGE) != 0 && item.iSubItem == MatchesSort::kName) {
+        item.iImage = RowImage(item.iItem).value_or(I_IMAGENONE);
     }
 }
 
-void frmMatches::AddRow(const clsItem& item) {
-    const std::string folder = host_->index.GetPath(item.Directory);
-    const std::optional<int> image = ctlIconExtractor1.RetrieveFileIcon(item.Filename, folder);
-    Row& added = rows_.emplace_back(
-        Row{Widen(item.Filename), Widen(folder), JoinPath(folder, item.Filename)});
-    LVITEMW row{};
-    row.mask = LVIF_TEXT | LVIF_IMAGE | LVIF_PARAM;
-    row.iItem = ListView_GetItemCount(lvwItems);
-    row.pszText = added.name.data();
-    row.iImage = image.value_or(I_IMAGENONE);
-    row.lParam = static_cast<LPARAM>(rows_.size() - 1);
-    const int inserted = ListView_InsertItem(lvwItems, &row);
-    ListView_SetItemText(lvwItems, inserted, MatchesSort::kLocation, added.location.data());
+// Rows of the same type, or of the same program, share one image.
+std::optional<int> frmMatches::RowImage(int row) {
+    const std::string name = rows_.Filename(row);
+    const std::string& folder = rows_.Folder(row);
+    const auto [image, added] =
+        images_.try_emplace(ctlIconExtractor::ImageKey(name, folder), std::nullopt);
+    if (added) {
+        image->second = ctlIconExtractor1.RetrieveFileIcon(name, folder);
+    }
+    return image->second;
 }
 
 void frmMatches::SelectRow(int row) {
@@ -350,34 +423,20 @@ void frmMatches::OpenRow(int row) {
             host_->AddWords();
         }
     }
-    const Row& chosen = RowAt(row);
-    host_->shell.Open(chosen.path, "", Narrow(chosen.location), kShowNormal);
+    const std::string& folder = rows_.Folder(row);
+    host_->shell.Open(JoinPath(folder, rows_.Filename(row)), "", folder, kShowNormal);
 }
 
-const frmMatches::Row& frmMatches::RowAt(int row) const {
-    LVITEMW item{};
-    item.mask = LVIF_PARAM;
-    item.iItem = row;
-    ListView_GetItem(lvwItems, &item);
-    return rows_.at(static_cast<size_t>(item.lParam));
-}
-
-const std::wstring& frmMatches::Row::Text(int column) const {
-    return column == MatchesSort::kName ? name : location;
-}
-
-// The list view's own sort compares the texts of the sort key's column this way: without
-// regard to case. The rows are told apart by lParam, which sorting leaves with them.
-int CALLBACK frmMatches::CompareRows(LPARAM first, LPARAM second, LPARAM self) {
-    const auto& form = *reinterpret_cast<const frmMatches*>(self);
-    const int column = form.sort_.SortKey;
-    const int order = lstrcmpiW(form.rows_.at(static_cast<size_t>(first)).Text(column).c_str(),
-                                form.rows_.at(static_cast<size_t>(second)).Text(column).c_str());
-    return form.sort_.SortOrder == MatchesSortOrder::Descending ? -order : order;
-}
-
+// The selected row stays selected, wherever the sort puts it.
 void frmMatches::SortRows() {
-    ListView_SortItems(lvwItems, &CompareRows, reinterpret_cast<LPARAM>(this));
+    const std::optional<int> selected = SelectedRow();
+    const std::optional<int32_t> position =
+        selected ? std::optional<int32_t>(rows_.Position(*selected)) : std::nullopt;
+    rows_.Sort(sort_.SortKey, sort_.SortOrder);
+    if (position) {
+        SelectRow(rows_.RowOf(*position).value_or(0));
+    }
+    InvalidateRect(lvwItems, nullptr, FALSE);
 }
 
 void frmMatches::ShowSortArrow() {

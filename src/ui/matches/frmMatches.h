@@ -2,15 +2,18 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <functional>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <utility>
-#include <vector>
 
 #include "index/MatchList.h"
 #include "platform/WinHandles.h"
 #include "ui/Window.h"
+#include "ui/matches/MatchRows.h"
 #include "ui/matches/MatchesSort.h"
 #include "ui/matches/ctlIconExtractor.h"
 
@@ -43,8 +46,9 @@ inline constexpr int kMatchesOpenId = IDOK;  // so that Enter anywhere in the wi
 
 // The chooser that lists several matches with their icons, name and folder, sorts them by a
 // column click and opens the chosen one through the shell, assigning the typed word to it when
-// the check box says so. What a row shows and its tag (its full path) are kept beside the list,
-// indexed by the row's lParam, so sorting leaves each row its own file.
+// the check box says so. The list holds no rows of its own: it asks for a row's texts and icon
+// when it draws the row, so that any number of matches opens at once. The rows' order is the
+// window's (MatchRows); each distinct icon is extracted once, when a row first needs it.
 class frmMatches final : public Window {
   public:
     // Made by the window itself (see Load); public for that only.
@@ -64,20 +68,11 @@ class frmMatches final : public Window {
     void OnDestroy() override { Form_Unload(); }
     void OnSize(UINT, int, int) override { Form_Resize(); }
     void OnCommand(int id, int code, HWND control) override;
+    void OnTimer(UINT_PTR id) override;
     LRESULT OnNotify(const NMHDR& header) override;
     void OnDpiChanged(int dpi, const RECT& suggested) override;
 
   private:
-    struct Row {
-        std::wstring name;
-        std::wstring location;
-        std::string path;  // the tag
-
-        const std::wstring& Text(int column) const;
-    };
-
-    static int CALLBACK CompareRows(LPARAM first, LPARAM second, LPARAM self);
-
     void Form_Load(const MatchesHost& host);
     void Form_Resize();
     void Form_Unload();
@@ -89,10 +84,11 @@ class frmMatches final : public Window {
     void CreateControls();
     void ApplyFont();
     void RestorePlace();
-    void AddRow(const clsItem& item);
+    void ShowRow(LVITEMW& item);
+    LRESULT DrawRow(NMLVCUSTOMDRAW& draw) const;
+    std::optional<int> RowImage(int row);
     void SelectRow(int row);
     std::optional<int> SelectedRow() const;
-    const Row& RowAt(int row) const;
     void OpenRow(int row);
     void SortRows();
     void ShowSortArrow();
@@ -101,7 +97,8 @@ class frmMatches final : public Window {
     std::optional<MatchesHost> host_;
     std::string word_;
     std::optional<MatchList> matches_;
-    std::vector<Row> rows_;  // by lParam
+    MatchRows rows_;
+    std::unordered_map<std::string, std::optional<int>> images_;  // by ctlIconExtractor::ImageKey
     MatchesSort sort_;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
 

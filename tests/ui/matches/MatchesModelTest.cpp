@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "ui/matches/MatchesLayout.h"
+#include "ui/matches/MatchesPlace.h"
 #include "ui/matches/MatchesSort.h"
 
 namespace quorin {
@@ -58,6 +59,26 @@ TEST(MatchesLayoutTest, AtTheSmallestSizeNothingOverlaps) {
     EXPECT_LT(smallest.chkAssociate.left + smallest.chkAssociate.width, smallest.cmdOpen.left);
     EXPECT_EQ(smallest.cmdOpen.left + smallest.cmdOpen.width, list.left + list.width);  // aligned
     EXPECT_LE(smallest.Label1.top + smallest.Label1.height, list.top);
+}
+
+TEST(MatchesPlaceTest, AWindowIsKeptInsideTheWorkAreaAndShrunkOnlyWhenLarger) {
+    const RECT work{0, 0, 1280, 760};
+    const auto expectRect = [](const RECT& rect, RECT expected) {
+        EXPECT_EQ(rect.left, expected.left);
+        EXPECT_EQ(rect.top, expected.top);
+        EXPECT_EQ(rect.right, expected.right);
+        EXPECT_EQ(rect.bottom, expected.bottom);
+    };
+    expectRect(KeptInside({100, 80, 580, 400}, work), {100, 80, 580, 400});  // inside: as it was
+    expectRect(KeptInside({1000, 600, 1480, 920}, work), {800, 440, 1280, 760});
+    expectRect(KeptInside({-300, -50, 180, 270}, work), {0, 0, 480, 320});
+    expectRect(KeptInside({200, 100, 1700, 1000}, work), {0, 0, 1280, 760});
+    // A second monitor left of the first.
+    expectRect(KeptInside({-100, 10, 300, 210}, {-1920, 0, 0, 1040}), {-400, 10, 0, 210});
+
+    expectRect(CentredIn({480, 320}, work), {400, 220, 880, 540});
+    expectRect(CentredIn({480, 320}, {1280, 0, 3200, 1040}), {2000, 360, 2480, 680});
+    expectRect(CentredIn({2000, 320}, work), {0, 220, 1280, 540});
 }
 
 }  // namespace

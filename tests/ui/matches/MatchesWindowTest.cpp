@@ -27,7 +27,7 @@ namespace {
 // Three files match "plan": a registered type, an unknown one and a program.
 constexpr char kIndexFile[] =
     "2023-03-15 12:00:00\r\n 3\r\nC:\\Work\r\nC:\\Archive\r\nC:\\Music\r\n"
-    " 0\r\nPlan B.qzt\r\n 1\r\nplan a.qzx\r\n 1\r\nother.txt\r\n 2\r\nPlans.exe\r\n";
+    " 0\r\nPlan B.qzp\r\n 1\r\nplan a.qzx\r\n 1\r\nother.txt\r\n 2\r\nPlans.exe\r\n";
 
 std::vector<std::string> Column(HWND list, int column) {
     std::vector<std::string> texts;
@@ -86,10 +86,32 @@ TwipsSize OuterTwips(HWND window) {
             PixelsToTwips(frame.bottom - frame.top, dpi)};
 }
 
+RECT ControlRect(HWND form, int id) {
+    RECT control{};
+    GetWindowRect(GetDlgItem(form, id), &control);
+    MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&control), 2);
+    return control;
+}
+
+// The height the control's text takes, wrapped at the control's width, in its own font.
+int TextHeight(HWND control) {
+    RECT area{};
+    GetClientRect(control, &area);
+    const HDC dc = GetDC(control);
+    const HGDIOBJ old =
+        SelectObject(dc, reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0)));
+    wchar_t text[200] = {};
+    GetWindowTextW(control, text, 200);
+    DrawTextW(dc, text, -1, &area, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+    SelectObject(dc, old);
+    ReleaseDC(control, dc);
+    return area.bottom - area.top;
+}
+
 class MatchesWindowTest : public ::testing::Test {
   protected:
     MatchesWindowTest() {
-        classes_.RegisterType(".qzt", "QuorinTest.Plan", "Quorin plan",
+        classes_.RegisterType(".qzp", "QuorinTest.Plan", "Quorin plan",
                               "%SystemRoot%\\system32\\shell32.dll,-152");
         program_.WriteFile("index.txt", kIndexFile);
         index_ = std::make_unique<clsIndex>(
@@ -133,7 +155,7 @@ TEST_F(MatchesWindowTest, ListsTheMatchesInCollectionOrderWithTheFirstSelected) 
     GetWindowTextW(form, text, 200);
     EXPECT_EQ(Narrow(text), "Multiple Matches");
 
-    EXPECT_EQ(Column(list, 0), (std::vector<std::string>{"Plan B.qzt", "plan a.qzx", "Plans.exe"}));
+    EXPECT_EQ(Column(list, 0), (std::vector<std::string>{"Plan B.qzp", "plan a.qzx", "Plans.exe"}));
     EXPECT_EQ(Column(list, 1), (std::vector<std::string>{"C:\\Work", "C:\\Archive", "C:\\Music"}));
     EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_SELECTED), 0);
     EXPECT_EQ(ListView_GetNextItem(list, 0, LVNI_SELECTED), -1);
@@ -160,12 +182,12 @@ TEST_F(MatchesWindowTest, ColumnClicksSortByTheColumnsTextWithoutRegardToCase) {
     using Names = std::vector<std::string>;
 
     ClickColumn(list, 0);  // the list starts keyed on "Name", ascending: this flips it
-    EXPECT_EQ(Column(list, 0), (Names{"Plans.exe", "Plan B.qzt", "plan a.qzx"}));
+    EXPECT_EQ(Column(list, 0), (Names{"Plans.exe", "Plan B.qzp", "plan a.qzx"}));
     ClickColumn(list, 0);
-    EXPECT_EQ(Column(list, 0), (Names{"plan a.qzx", "Plan B.qzt", "Plans.exe"}));
+    EXPECT_EQ(Column(list, 0), (Names{"plan a.qzx", "Plan B.qzp", "Plans.exe"}));
     ClickColumn(list, 1);
     EXPECT_EQ(Column(list, 1), (Names{"C:\\Archive", "C:\\Music", "C:\\Work"}));
-    EXPECT_EQ(Column(list, 0), (Names{"plan a.qzx", "Plans.exe", "Plan B.qzt"}));
+    EXPECT_EQ(Column(list, 0), (Names{"plan a.qzx", "Plans.exe", "Plan B.qzp"}));
     ClickColumn(list, 1);
     EXPECT_EQ(Column(list, 1), (Names{"C:\\Work", "C:\\Music", "C:\\Archive"}));
     DestroyWindow(form);
@@ -180,7 +202,7 @@ TEST_F(MatchesWindowTest, AssociationGoesToTheRowsPositionWhileTheRowsOwnFileOpe
     EXPECT_FALSE(IsWindow(plain));
 
     const HWND form = Load();
-    ClickColumn(List(form), 0);  // rows: Plans.exe, Plan B.qzt, plan a.qzx
+    ClickColumn(List(form), 0);  // rows: Plans.exe, Plan B.qzp, plan a.qzx
     SelectRow(List(form), 2);
     Button_SetCheck(GetDlgItem(form, kMatchesAssociateId), BST_CHECKED);
     ClickButton(form, kMatchesOpenId);
@@ -273,14 +295,50 @@ TEST_F(MatchesWindowTest, KeepsItsPlaceInTwipsAndNeverGetsSmallerThan3000) {
     EXPECT_LT(OuterTwips(restored).width, 3000 + 15);
     RECT client{};
     GetClientRect(restored, &client);
-    for (int id : {kMatchesListId, kMatchesOpenId, kMatchesAssociateId}) {
-        RECT control{};
-        GetWindowRect(GetDlgItem(restored, id), &control);
-        MapWindowPoints(nullptr, restored, reinterpret_cast<POINT*>(&control), 2);
+    for (int id : {kMatchesLabelId, kMatchesListId, kMatchesOpenId, kMatchesAssociateId}) {
+        const RECT control = ControlRect(restored, id);
         EXPECT_LE(control.right, client.right) << id;
         EXPECT_LE(control.bottom, client.bottom) << id;
     }
+    // Nothing overlaps, and the count fits its label.
+    const RECT label = ControlRect(restored, kMatchesLabelId);
+    const RECT list = ControlRect(restored, kMatchesListId);
+    const RECT check = ControlRect(restored, kMatchesAssociateId);
+    const RECT open = ControlRect(restored, kMatchesOpenId);
+    EXPECT_LE(label.bottom, list.top);
+    EXPECT_LE(list.bottom, open.top);
+    EXPECT_LE(check.right, open.left);
+    EXPECT_LE(TextHeight(GetDlgItem(restored, kMatchesLabelId)), label.bottom - label.top);
     DestroyWindow(restored);
+}
+
+TEST_F(MatchesWindowTest, ComesUpInsideTheScreensWorkArea) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    const RECT work = monitor.rcWork;
+
+    // Never saved: in the middle of the screen.
+    const HWND centred = Load();
+    RECT frame{};
+    GetWindowRect(centred, &frame);
+    EXPECT_NEAR(frame.left - work.left, work.right - frame.right, 1);
+    EXPECT_NEAR(frame.top - work.top, work.bottom - frame.bottom, 1);
+    DestroyWindow(centred);
+
+    // Saved partly beyond the bottom right corner, as a place saved at another DPI can be.
+    const int dpi = ScreenDpi();
+    settings_.Save("Matches", "Left", std::to_string(PixelsToTwips(work.right - 100, dpi)));
+    settings_.Save("Matches", "Top", std::to_string(PixelsToTwips(work.bottom - 50, dpi)));
+    settings_.Save("Matches", "Width", "6000");
+    settings_.Save("Matches", "Height", "4500");
+    const HWND moved = Load();
+    GetWindowRect(moved, &frame);
+    EXPECT_EQ(frame.right, work.right);
+    EXPECT_EQ(frame.bottom, work.bottom);
+    EXPECT_NEAR(OuterTwips(moved).width, 6000, 15);
+    EXPECT_NEAR(OuterTwips(moved).height, 4500, 15);
+    DestroyWindow(moved);
 }
 
 TEST_F(MatchesWindowTest, AMinimizedWindowSavesItsMinimizedPlace) {
@@ -309,6 +367,80 @@ TEST_F(MatchesWindowTest, AFailureWhileFillingIsShownAndKeepsTheRowsSoFar) {
     EXPECT_EQ(prompter_.boxes[0].icon, PromptIcon::Critical);
     EXPECT_EQ(Column(List(window), 0), std::vector<std::string>{"first.qzx"});
     DestroyWindow(window);
+}
+
+// Names that compare differently with and without regard to case, punctuation and digits, so
+// that a sort that only looked like lstrcmpiW would show.
+std::string ManyName(int i) {
+    static constexpr const char* kStems[] = {"Report", "report", "co-op", "coop", "Zeta",
+                                             "alpha",  "Alpha",  "b_2",   "B-10", "émile"};
+    return std::string(kStems[i % 10]) + " " + std::to_string((i * 7919) % 1000) + ".qzx";
+}
+
+TEST_F(MatchesWindowTest, AHundredThousandRowsShowCountSortAndAssociateByPosition) {
+    constexpr int kRows = 100000;
+    auto items = std::make_shared<IndexItems>();
+    std::vector<int32_t> positions;
+    for (int i = 0; i < kRows; ++i) {
+        items->Add(ManyName(i), i % 3);
+        positions.push_back(i + 1);
+    }
+    frmMatches& loaded = frmMatches::Load(Host());
+    const HWND form = loaded.hwnd();
+    const HWND list = List(form);
+    loaded.Word("many");
+    loaded.Matches(MatchList(items, positions));
+
+    wchar_t label[200] = {};
+    GetWindowTextW(GetDlgItem(form, kMatchesLabelId), label, 200);
+    EXPECT_EQ(Narrow(label), "100000 matches found. Please choose from the following.");
+    ASSERT_EQ(ListView_GetItemCount(list), kRows);
+    EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_SELECTED), 0);
+    const auto text = [list](int row, int column) {
+        wchar_t buffer[MAX_PATH] = {};
+        ListView_GetItemText(list, row, column, buffer, MAX_PATH);
+        return std::wstring(buffer);
+    };
+    EXPECT_EQ(Narrow(text(0, 0)), ManyName(0));
+    EXPECT_EQ(Narrow(text(0, 1)), "C:\\Work");
+    EXPECT_EQ(Narrow(text(kRows - 1, 0)), ManyName(kRows - 1));
+    EXPECT_EQ(Narrow(text(kRows - 1, 1)), "C:\\Work");
+
+    // Every neighbour in order as lstrcmpiW has it; equal texts keep the order they had, which
+    // for the first sort is collection order.
+    const auto expectSorted = [&](int column, int direction, const char* what) {
+        int wrong = 0;
+        for (int row = 1; row < kRows; ++row) {
+            if (lstrcmpiW(text(row - 1, column).c_str(), text(row, column).c_str()) * direction >
+                0) {
+                ++wrong;
+            }
+        }
+        EXPECT_EQ(wrong, 0) << what;
+    };
+    ClickColumn(list, 1);
+    expectSorted(1, 1, "by Location, ascending");
+    EXPECT_EQ(Narrow(text(0, 1)), "C:\\Archive");
+    EXPECT_EQ(Narrow(text(0, 0)), ManyName(1));  // the first of its folder: the sort is stable
+    ClickColumn(list, 0);
+    expectSorted(0, 1, "by Name, ascending");
+    ClickColumn(list, 0);
+    expectSorted(0, -1, "by Name, descending");
+
+    // The word goes to the match at the selected row's position; the row's own file opens.
+    const int row = 12345;
+    const std::string shown = Narrow(text(row, 0));
+    const std::string folder = Narrow(text(row, 1));
+    SelectRow(list, row);
+    Button_SetCheck(GetDlgItem(form, kMatchesAssociateId), BST_CHECKED);
+    ClickButton(form, kMatchesOpenId);
+    ASSERT_EQ(shell_.opened.size(), 1u);
+    EXPECT_EQ(shell_.opened[0].file, folder + "\\" + shown);
+    EXPECT_EQ(shell_.opened[0].workingFolder, folder);
+    const clsItem* assigned = index_->Words().Item("MANY");
+    ASSERT_NE(assigned, nullptr);
+    EXPECT_EQ(assigned->Filename, ManyName(row));
+    EXPECT_FALSE(IsWindow(form));
 }
 
 }  // namespace
