@@ -38,11 +38,13 @@ PromptAnswer AnswerOf(int result) {
 }  // namespace
 
 // A tray program asks while none of its windows may be in front (at start-up, or from the tray),
-// so the box takes the foreground itself rather than waiting grey behind other programs.
+// so the box takes the foreground itself rather than waiting grey behind other programs. Without
+// an owner (the first-run wizard) it holds back every window of the program until answered.
 PromptAnswer MessageBoxPrompter::Ask(std::string_view title, std::string_view text,
                                      PromptButtons buttons, PromptIcon icon) {
+    const UINT modality = owner_ == nullptr ? MB_TASKMODAL : 0;
     return AnswerOf(MessageBoxW(owner_, Widen(text).c_str(), Widen(title).c_str(),
-                                StyleOf(buttons, icon) | MB_SETFOREGROUND));
+                                StyleOf(buttons, icon) | MB_SETFOREGROUND | modality));
 }
 
 }  // namespace quorin
