@@ -41,15 +41,16 @@ scripts/wine-run --prefix "$prefix" explorer /desktop=quorin,1280x800 "Z:${exe//
 wine=$!
 
 if [ -n "$xvfb" ]; then
-    # Nobody can answer on a virtual display: say Yes to building the first index (Enter is the
-    # question's default; in the main window an empty word box makes Enter do nothing).
+    # Nobody can answer on a virtual display: Enter goes through the first-run wizard ("Next >"
+    # three times, then Finish builds the first index); in the main window an empty word box
+    # makes Enter do nothing.
     xdotool mousemove 640 200 2>/dev/null || true
     sleep 10
     import -display "$DISPLAY" -window root "$run/screenshot-start.png" 2>/dev/null || true
-    for _ in $(seq 10); do
+    for _ in $(seq 20); do
         [ -f "$run/index.txt" ] && break
         xdotool key Return 2>/dev/null || true
-        sleep 6
+        sleep 3
     done
     import -display "$DISPLAY" -window root "$run/screenshot.png" 2>/dev/null || true
     echo "Screenshots: $run/screenshot-start.png and $run/screenshot.png"
