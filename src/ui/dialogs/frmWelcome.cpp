@@ -128,7 +128,21 @@ LRESULT frmWelcome::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         Form_Paint();
         return 0;
     }
-    return Dialog::HandleMessage(message, wParam, lParam);
+    const LRESULT result = Dialog::HandleMessage(message, wParam, lParam);
+    if (message == WM_DPICHANGED) {
+        tabLabel.PlaceInRow(0, 0);  // the new font has resized them
+    }
+    return result;
+}
+
+bool frmWelcome::OnKey(const MSG& message) {
+    const bool ctrlTab = message.wParam == VK_TAB && GetKeyState(VK_CONTROL) < 0;
+    if (!ctrlTab || !tabLabel[0].Enabled()) {
+        return false;
+    }
+    const int step = GetKeyState(VK_SHIFT) < 0 ? kWelcomePageCount - 1 : 1;
+    tabLabel_Click((page_ + step) % kWelcomePageCount);
+    return true;
 }
 
 void frmWelcome::DisableTabs() {

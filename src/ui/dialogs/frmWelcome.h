@@ -33,7 +33,8 @@ inline constexpr int kWelcomePageCount = 4;
 
 // "Welcome to Quorin": the first-run wizard. Four pages (welcome, file types, drives, index)
 // reached by their tabs and by "< Previous" and "Next >"; what is indexed is changed through the
-// Options dialog. Finish builds the first index on the progress page and closes the wizard. The
+// Options dialog; Ctrl+Tab and Ctrl+Shift+Tab go round the pages as the tabs do. Finish builds the
+// first index on the progress page and closes the wizard. The
 // wizard-active flag is set while it is open and cleared only by Finish, so that start-up knows
 // whether the first index was built.
 class frmWelcome final : public Dialog, public ProgressWindow {
@@ -56,6 +57,7 @@ class frmWelcome final : public Dialog, public ProgressWindow {
     void OnCancel() override;
     void OnClose() override;
     void OnDestroy() override;
+    bool OnKey(const MSG& message) override;
     void OnCommand(int id, int code, HWND control) override;
     LRESULT OnNotify(const NMHDR& header) override;
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

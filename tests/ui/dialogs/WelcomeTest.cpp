@@ -170,6 +170,19 @@ TEST_F(WelcomeTest, EnterGoesOnEscapeCancelsAndTheFocusedLinkTakesEnterAndSpace)
     ASSERT_EQ(prompter.boxes.size(), 1u);
     EXPECT_EQ(prompter.boxes[0].title, "Confirm cancel");
 
+    BYTE keys[256] = {};
+    GetKeyboardState(keys);
+    keys[VK_CONTROL] = 0x80;
+    SetKeyboardState(keys);
+    PressKey(VK_TAB);
+    EXPECT_EQ(PageShown(), 0) << "Ctrl+Tab goes round";
+    keys[VK_SHIFT] = 0x80;
+    SetKeyboardState(keys);
+    PressKey(VK_TAB);
+    EXPECT_EQ(PageShown(), 3) << "and back with Shift";
+    keys[VK_CONTROL] = keys[VK_SHIFT] = 0;
+    SetKeyboardState(keys);
+
     ClickTab(0);
     PressKey(VK_TAB);
     PressKey(VK_TAB);
@@ -209,7 +222,9 @@ TEST_F(WelcomeTest, FinishBuildsOnTheProgressPageThenCloses) {
     bool progressShown = false;
     bool linksHeld = false;
     bool tabsDisabled = false;
+    bool closedDuringBuild = false;
     events.onEvents = [&] {
+        closedDuringBuild = closedDuringBuild || IsWindow(wizard.hwnd()) == FALSE;
         progressShown =
             Shown(IDC_WELCOME_ANIMATION) && Shown(IDC_WELCOME_COUNTER) && !Shown(IDC_WELCOME_READY);
         linksHeld = !Enabled(IDC_WELCOME_PREVIOUS) && !Enabled(IDC_WELCOME_FINISH) &&
@@ -221,6 +236,7 @@ TEST_F(WelcomeTest, FinishBuildsOnTheProgressPageThenCloses) {
     EXPECT_TRUE(progressShown);
     EXPECT_TRUE(linksHeld);
     EXPECT_TRUE(tabsDisabled);
+    EXPECT_FALSE(closedDuringBuild);
     EXPECT_FALSE(IsWindow(wizard.hwnd()));
     EXPECT_FALSE(WizardActive());
     EXPECT_NE(index.Get().LastUpdated, 0);
