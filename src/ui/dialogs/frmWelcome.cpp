@@ -12,6 +12,7 @@
 #include "resource.h"
 #include "ui/Dpi.h"
 #include "ui/Hourglass.h"
+#include "ui/ListViewColumn.h"
 #include "ui/PaintDc.h"
 #include "ui/WindowText.h"
 #include "ui/dialogs/FileTypeLists.h"
@@ -45,15 +46,6 @@ std::string WelcomeText() {
            "This configuration wizard will walk you through the steps of specifing what drive(s) "
            "you want to index and what files types you want to include." +
            crlf + crlf + "Click 'Next' to continue.";
-}
-
-void AddColumn(HWND list, int column, const wchar_t* title, int width) {
-    LVCOLUMNW header{};
-    header.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
-    header.pszText = const_cast<wchar_t*>(title);
-    header.cx = width;
-    header.iSubItem = column;
-    ListView_InsertColumn(list, column, &header);
 }
 
 }  // namespace
@@ -102,8 +94,8 @@ void frmWelcome::Form_Load() {
     imlSmall.reset(ImageList_Create(iconSize, iconSize, ILC_COLOR32 | ILC_MASK, 0, 16));
     ListView_SetImageList(lvwFileTypes, imlSmall.get(), LVSIL_SMALL);
     ListView_SetExtendedListViewStyle(lvwFileTypes, LVS_EX_FULLROWSELECT);
-    AddColumn(lvwFileTypes, 0, L"Type", ScaleForDpi(kTypeColumnPixels, dpi));
-    AddColumn(lvwFileTypes, 1, L"Description", ScaleForDpi(kDescriptionColumnPixels, dpi));
+    AddListColumn(lvwFileTypes, 0, L"Type", ScaleForDpi(kTypeColumnPixels, dpi));
+    AddListColumn(lvwFileTypes, 1, L"Description", ScaleForDpi(kDescriptionColumnPixels, dpi));
 
     for (int block = 1; block <= kProgressBlock; ++block) {
         ShowBlock(block, false);

@@ -5,8 +5,8 @@
 
 #include <utility>
 
-#include "platform/LenientConversions.h"
 #include "index/clsIndex.h"
+#include "platform/LenientConversions.h"
 #include "platform/Path.h"
 #include "platform/Prompter.h"
 #include "platform/SettingsStore.h"
@@ -14,6 +14,7 @@
 #include "platform/Text.h"
 #include "ui/Dpi.h"
 #include "ui/Hourglass.h"
+#include "ui/ListViewColumn.h"
 #include "ui/WindowClass.h"
 #include "ui/WindowText.h"
 #include "ui/matches/MatchesLayout.h"
@@ -39,15 +40,6 @@ void RegisterMatchesClass() {
             {.name = kMatchesClass, .procedure = &Window::SelfOwnedProcedure<frmMatches>});
     }();
     static_cast<void>(atom);
-}
-
-void AddColumn(HWND list, int column, const wchar_t* title, int width) {
-    LVCOLUMNW header{};
-    header.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
-    header.pszText = const_cast<wchar_t*>(title);
-    header.cx = width;
-    header.iSubItem = column;
-    ListView_InsertColumn(list, column, &header);
 }
 
 void Place(HWND control, const TwipsRect& rect, int dpi) {
@@ -282,11 +274,11 @@ void frmMatches::CreateControls() {
         WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
         kMatchesListId, WS_EX_CLIENTEDGE);
     ListView_SetExtendedListViewStyle(lvwItems, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
-    AddColumn(lvwItems, MatchesSort::kName, L"Name", TwipsToPixels(kNameColumnTwips, dpi_));
-    AddColumn(lvwItems, MatchesSort::kLocation, L"Location",
-              TwipsToPixels(kLocationColumnTwips, dpi_));
+    AddListColumn(lvwItems, MatchesSort::kName, L"Name", TwipsToPixels(kNameColumnTwips, dpi_));
+    AddListColumn(lvwItems, MatchesSort::kLocation, L"Location",
+                  TwipsToPixels(kLocationColumnTwips, dpi_));
     chkAssociate = CreateControl(hwnd(), L"BUTTON", "Always associate this word with this item",
-                                  WS_TABSTOP | BS_AUTOCHECKBOX, kMatchesAssociateId);
+                                 WS_TABSTOP | BS_AUTOCHECKBOX, kMatchesAssociateId);
     cmdOpen =
         CreateControl(hwnd(), L"BUTTON", "Open", WS_TABSTOP | BS_DEFPUSHBUTTON, kMatchesOpenId);
 }
