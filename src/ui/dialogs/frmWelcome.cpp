@@ -81,14 +81,26 @@ void frmWelcome::Form_Load() {
     SendMessageW(hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon_.get()));
 
     SetText(Item(IDC_WELCOME_WELCOME), WelcomeText());
+    CreateTabs();
+    PrepareFileTypesList();
+    for (int block = 1; block <= kProgressBlock; ++block) {
+        ShowBlock(block, false);
+    }
+    ShowPage();
+    FillFileTypes();
+}
 
+// Made here rather than in the template, so they take the dialog's font like its controls.
+void frmWelcome::CreateTabs() {
     tabLabel.Create(hwnd(), IDC_WELCOME_TAB0, kTabCaptions);
     const auto font = SendMessageW(Item(IDC_WELCOME_WELCOME), WM_GETFONT, 0, 0);
     for (int tab = 0; tab < tabLabel.Count(); ++tab) {
         SendMessageW(tabLabel[tab].hwnd(), WM_SETFONT, static_cast<WPARAM>(font), FALSE);
     }
     tabLabel.PlaceInRow(0, 0);
+}
 
+void frmWelcome::PrepareFileTypesList() {
     const int dpi = WindowDpi(hwnd());
     const int iconSize = ScaleForDpi(kSmallIconPixels, dpi);
     imlSmall.reset(ImageList_Create(iconSize, iconSize, ILC_COLOR32 | ILC_MASK, 0, 16));
@@ -96,12 +108,6 @@ void frmWelcome::Form_Load() {
     ListView_SetExtendedListViewStyle(lvwFileTypes, LVS_EX_FULLROWSELECT);
     AddListColumn(lvwFileTypes, 0, L"Type", ScaleForDpi(kTypeColumnPixels, dpi));
     AddListColumn(lvwFileTypes, 1, L"Description", ScaleForDpi(kDescriptionColumnPixels, dpi));
-
-    for (int block = 1; block <= kProgressBlock; ++block) {
-        ShowBlock(block, false);
-    }
-    ShowPage();
-    FillFileTypes();
 }
 
 // The band behind the tab row, in the colour of the unselected tabs.

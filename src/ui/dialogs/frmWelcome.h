@@ -71,6 +71,8 @@ class frmWelcome final : public Dialog, public ProgressWindow {
 
     void Form_Load();
     void Form_Paint();
+    void CreateTabs();
+    void PrepareFileTypesList();
     void tabLabel_Click(int Index);
     void lnkNext_Click();
     void lnkPrevious_Click();
