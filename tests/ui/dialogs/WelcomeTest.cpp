@@ -37,11 +37,11 @@ struct Row {
 class WelcomeTest : public ProgramFixture {
   protected:
     WelcomeTest() {
-        classes.RegisterType(".qzw", "QuorinWizard.Text", "Wizard text", kShell32Icon);
-        classes.RegisterType(".qzb", "QuorinWizard.Bare", "A bare type", "");
-        classes.RegisterType(".qzq", "QuorinWizard.Other", "Not in the filter", kShell32Icon);
+        classes.RegisterType(".wzt", "QuorinWizard.Text", "Wizard text", kShell32Icon);
+        classes.RegisterType(".wzb", "QuorinWizard.Bare", "A bare type", "");
+        classes.RegisterType(".wzq", "QuorinWizard.Other", "Not in the filter", kShell32Icon);
         // All-except mode: the wizard lists what the filter names all the same.
-        settings.Save("Index", "Filter", ".QZW .QZB ");
+        settings.Save("Index", "Filter", ".WZT .WZB ");
         index.Get().UpdateSettings();
     }
 
@@ -95,7 +95,7 @@ class WelcomeTest : public ProgramFixture {
             item.cchTextMax = 64;
             ListView_GetItem(list, &item);
             ListView_GetItemText(list, i, 1, description, 64);
-            if (Narrow(text).starts_with(".qz")) {
+            if (Narrow(text).starts_with(".wz")) {
                 rows.push_back({Narrow(text), Narrow(description), item.iImage >= 0});
             }
         }
@@ -251,13 +251,13 @@ TEST_F(WelcomeTest, ListsTheFilterTypesWithTheirDescriptionsAndNoIconWhereThereI
     std::vector<Row> rows = Rows();
     std::sort(rows.begin(), rows.end(), [](const Row& a, const Row& b) { return a.type < b.type; });
     EXPECT_EQ(rows,
-              (std::vector<Row>{{".qzb", "A bare type", false}, {".qzw", "Wizard text", true}}));
+              (std::vector<Row>{{".wzb", "A bare type", false}, {".wzt", "Wizard text", true}}));
 }
 
 TEST_F(WelcomeTest, ChangingFileTypesInOptionsRefillsTheListAndDrivesOpenGeneral) {
     Open();
     options.onModal = [&] {
-        settings.Save("Index", "Filter", ".QZQ .QZB ");
+        settings.Save("Index", "Filter", ".WZQ .WZB ");
         index.Get().UpdateSettings();
     };
     Click(IDC_WELCOME_CHANGE_FILETYPES);
@@ -265,8 +265,8 @@ TEST_F(WelcomeTest, ChangingFileTypesInOptionsRefillsTheListAndDrivesOpenGeneral
     EXPECT_EQ(options.modalOwners, (std::vector<HWND>{wizard.hwnd()}));
     std::vector<Row> rows = Rows();
     std::sort(rows.begin(), rows.end(), [](const Row& a, const Row& b) { return a.type < b.type; });
-    EXPECT_EQ(rows, (std::vector<Row>{{".qzb", "A bare type", false},
-                                      {".qzq", "Not in the filter", true}}));
+    EXPECT_EQ(rows, (std::vector<Row>{{".wzb", "A bare type", false},
+                                      {".wzq", "Not in the filter", true}}));
 
     options.onModal = nullptr;
     EXPECT_EQ(WindowText(Field(IDC_WELCOME_DRIVES)), "click here.");
@@ -286,11 +286,11 @@ TEST_F(WelcomeTest, AColumnClickSortsByItAndASecondClickTurnsTheOrder) {
         return texts;
     };
     ClickColumn(1);
-    EXPECT_EQ(types(), (std::vector<std::string>{".qzb", ".qzw"})) << "by description, A to Z";
+    EXPECT_EQ(types(), (std::vector<std::string>{".wzb", ".wzt"})) << "by description, A to Z";
     ClickColumn(1);
-    EXPECT_EQ(types(), (std::vector<std::string>{".qzw", ".qzb"}));
+    EXPECT_EQ(types(), (std::vector<std::string>{".wzt", ".wzb"}));
     ClickColumn(0);
-    EXPECT_EQ(types(), (std::vector<std::string>{".qzb", ".qzw"})) << "a new column: ascending";
+    EXPECT_EQ(types(), (std::vector<std::string>{".wzb", ".wzt"})) << "a new column: ascending";
 }
 
 }  // namespace
