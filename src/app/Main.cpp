@@ -6,6 +6,7 @@
 #include "app/modGlobals.h"
 #include "platform/Errors.h"
 #include "ui/Hourglass.h"
+#include "ui/dialogs/frmWelcome.h"
 #include "ui/splash/Splash.h"
 
 namespace quorin {
@@ -15,6 +16,9 @@ namespace {
 constexpr std::string_view kMissingIndexText =
     "Your index file is either missing or corrupted. Would you like to generate a new index file "
     "now? (Answering no will exit the program.)";
+
+// "1" once the wizard's Finish has built the first index on this machine.
+constexpr std::string_view kConfiguredKey = "Configured";
 
 }  // namespace
 
@@ -29,11 +33,15 @@ bool Startup::Main() {
         splash.Show();
     }
     WriteMainSettings();
-    if (WizardActive()) {
-        splash.Unload();
-        return false;
-    }
     try {
+        if (!Configured()) {
+            busy.reset();
+            splash.Unload();
+            if (!RunFirstStartWizard()) {
+                return false;
+            }
+            busy.emplace();
+        }
         mainForm_ = std::make_unique<frmMain>(
             MainServices{services_.settings, services_.clock, services_.prompter, services_.shell,
                          services_.index, tray_, services_.matches, services_.options,
@@ -65,6 +73,31 @@ void Startup::WriteMainSettings() {
     services_.settings.Save("Main", "VersionMajor", std::to_string(QUORIN_VERSION_MAJOR));
     services_.settings.Save("Main", "VersionMinor", std::to_string(QUORIN_VERSION_MINOR));
     services_.settings.Save("Main", "VersionRevision", std::to_string(QUORIN_VERSION_REVISION));
+}
+
+// An installation from before the wizard that has an index of its own was configured then: it
+// is marked so and goes on as before, rather than meeting the wizard after an update.
+bool Startup::Configured() {
+    if (services_.settings.Get("Main", kConfiguredKey, "") == "1") {
+        return true;
+    }
+    if (services_.index.Get().LastUpdated == 0) {
+        return false;
+    }
+    services_.settings.Save("Main", kConfiguredKey, "1");
+    return true;
+}
+
+// The wizard clears the wizard-active flag only when its Finish has built the first index.
+bool Startup::RunFirstStartWizard() {
+    frmWelcome wizard(
+        {services_.index.Get(), services_.prompter, services_.options, services_.help});
+    wizard.ShowModal(nullptr);
+    if (WizardActive()) {
+        return false;
+    }
+    services_.settings.Save("Main", kConfiguredKey, "1");
+    return true;
 }
 
 bool Startup::EnsureIndex() {

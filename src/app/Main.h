@@ -36,8 +36,9 @@ struct StartupServices {
     std::function<void(frmMain&)> onMainLoaded;
 };
 
-// The program's start: the splash window, the "Main" settings, the main window hidden in the
-// tray, the engine, and the offer to build a missing index. It holds the tray icon and the main
+// The program's start: the splash window, the "Main" settings, the first-run wizard until it has
+// been finished once, the main window hidden in the tray, the engine, and the offer to build a
+// missing index. It holds the tray icon and the main
 // window for as long as the program runs.
 class Startup {
   public:
@@ -52,6 +53,8 @@ class Startup {
 
   private:
     void WriteMainSettings();
+    bool Configured();
+    bool RunFirstStartWizard();
     bool EnsureIndex();
     void ReportFatal(const std::exception& error);
 

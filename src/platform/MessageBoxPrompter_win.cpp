@@ -53,14 +53,17 @@ PromptAnswer AnswerOf(int result) {
 // so the box takes the foreground itself rather than waiting grey behind other programs. It
 // belongs to the program's active window (a dialog asking), else to the main window; an owner
 // that has gone (a start-up that failed after the main window was made) would make the box fail.
+// Without any owner (the first-run wizard at start-up) it holds back every window of the
+// program until answered.
 PromptAnswer MessageBoxPrompter::Ask(std::string_view title, std::string_view text,
                                      PromptButtons buttons, PromptIcon icon) {
     HWND owner = GetActiveWindow();
     if (owner == nullptr && IsWindow(owner_)) {
         owner = owner_;
     }
+    const UINT modality = owner == nullptr ? MB_TASKMODAL : 0;
     return AnswerOf(MessageBoxW(owner, Widen(text).c_str(), Widen(title).c_str(),
-                                StyleOf(buttons, icon) | MB_SETFOREGROUND));
+                                StyleOf(buttons, icon) | MB_SETFOREGROUND | modality));
 }
 
 }  // namespace quorin

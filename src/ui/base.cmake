@@ -4,6 +4,7 @@ add_library(quorin_ui_base STATIC
     ${CMAKE_CURRENT_LIST_DIR}/Dpi.cpp
     ${CMAKE_CURRENT_LIST_DIR}/FocusColors.cpp
     ${CMAKE_CURRENT_LIST_DIR}/Hourglass.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/ListViewColumn.cpp
     ${CMAKE_CURRENT_LIST_DIR}/MessagePump_win.cpp
     ${CMAKE_CURRENT_LIST_DIR}/PacedProgress.cpp
     ${CMAKE_CURRENT_LIST_DIR}/Window.cpp

@@ -3,9 +3,13 @@
 #include <filesystem>
 
 #include "QuorinVersion.h"
+#include "WelcomeDialog.h"
 #include "app/Main.h"
 #include "app/MainInstance.h"
 #include "platform/Path.h"
+#include "ui/controls/LabelWindow.h"
+#include "ui/dialogs/DialogTestHelpers.h"
+#include "ui/dialogs/frmWelcome.h"
 #include "ui/main/MainFakes.h"
 
 namespace quorin::test {
@@ -17,6 +21,7 @@ constexpr std::string_view kMissingIndexText =
 
 class StartupTest : public ProgramFixture {
   protected:
+    StartupTest() { settings.Save("Main", "Configured", "1"); }
     ~StartupTest() override {
         startup.reset();
         events.pump.DoEvents();
@@ -129,6 +134,78 @@ TEST_F(StartupTest, ABadSettingEndsTheProgramWithOneMessageAndWritesNothing) {
     EXPECT_EQ(settings.Get("Main", "StartX", "none"), "none");
     EXPECT_EQ(unloads, 0);
     EXPECT_FALSE(std::filesystem::exists(JoinPath(program.Path(), "words.txt")));
+}
+
+// A machine where the wizard has never been finished.
+class FirstStartTest : public StartupTest {
+  protected:
+    FirstStartTest() { settings.Save("Main", "Configured", ""); }
+
+    // What the user does in the wizard once start-up shows it; records that it was shown.
+    void InWizard(std::function<void(HWND)> action) {
+        WhenLoopRuns([this, action = std::move(action)] {
+            const HWND wizard = FindWindowW(nullptr, L"Welcome to Quorin");
+            wizardShown = wizard != nullptr && IsWindowVisible(wizard);
+            looked = true;
+            if (wizard != nullptr) {
+                action(wizard);
+            }
+        });
+    }
+    static void Click(HWND wizard, int id) {
+        SendMessageW(wizard, WM_COMMAND, MAKEWPARAM(id, kLabelClick),
+                     reinterpret_cast<LPARAM>(GetDlgItem(wizard, id)));
+    }
+    std::string Configured() const { return settings.Get("Main", "Configured", ""); }
+
+    bool wizardShown = false;
+    bool looked = false;
+};
+
+TEST_F(FirstStartTest, TheWizardsFinishBuildsTheIndexAndTheProgramRunsFromTheTray) {
+    tree.WriteFile("sub/file.txt", "x");
+    InWizard([](HWND wizard) {
+        for (int page = 1; page < kWelcomePageCount; ++page) {
+            Click(wizard, IDC_WELCOME_NEXT);
+        }
+        Click(wizard, IDC_WELCOME_FINISH);
+    });
+    EXPECT_TRUE(RunMain());
+    EXPECT_TRUE(wizardShown);
+    EXPECT_TRUE(IndexFileExists());
+    EXPECT_TRUE(prompter.boxes.empty()) << "no \"Missing index\" after the wizard's build";
+    EXPECT_EQ(Configured(), "1");
+    EXPECT_EQ(settings.Get("Main", "Path", ""), program.Path() + "\\") << "written before";
+    ASSERT_NE(startup->MainForm(), nullptr);
+    EXPECT_FALSE(IsWindowVisible(startup->MainForm()->hwnd())) << "it waits in the tray";
+}
+
+TEST_F(FirstStartTest, ACancelledOrClosedWizardEndsTheProgramAndComesBackNextTime) {
+    prompter.answers = {PromptAnswer::Yes};
+    InWizard([](HWND wizard) { Click(wizard, IDC_WELCOME_CANCEL); });
+    EXPECT_FALSE(RunMain());
+    EXPECT_TRUE(wizardShown);
+    EXPECT_EQ(startup->MainForm(), nullptr);
+    EXPECT_FALSE(IndexFileExists());
+    EXPECT_EQ(Configured(), "");
+
+    wizardShown = false;
+    InWizard([](HWND wizard) { SendMessageW(wizard, WM_CLOSE, 0, 0); });
+    EXPECT_FALSE(RunMain());
+    EXPECT_TRUE(wizardShown);
+    EXPECT_EQ(prompter.boxes.size(), 1u) << "closing asks nothing";
+    EXPECT_FALSE(IndexFileExists());
+    EXPECT_EQ(Configured(), "");
+}
+
+TEST_F(FirstStartTest, AnInstallationWithAnIndexFromBeforeTheWizardCountsAsConfigured) {
+    program.WriteFile("index.txt", "2023-03-14 08:00:00\r\n0\r\n");
+    InWizard([](HWND wizard) { SendMessageW(wizard, WM_CLOSE, 0, 0); });
+    EXPECT_TRUE(RunMain());
+    EXPECT_EQ(Configured(), "1");
+    EXPECT_TRUE(prompter.boxes.empty());
+    MessagePump::RunUntil([this] { return looked; });
+    EXPECT_FALSE(wizardShown);
 }
 
 TEST(MainInstance, OnlyTheFirstCopyRuns) {

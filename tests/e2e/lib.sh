@@ -57,7 +57,8 @@ click_and_wait() {  # X Y AREA [BUTTON]
 area_changed() { [ "$(area_sum "$1")" != "$2" ]; }
 
 # A fresh program folder holding the program, no settings of an earlier run, and the prefix made
-# on first use.
+# on first use. The first start is marked done, so that the program starts without its wizard,
+# unless the script sets first_start=1.
 prepare_program() {
     rm -rf "$program" "$shots"
     mkdir -p "$program" "$shots"
@@ -65,6 +66,7 @@ prepare_program() {
     trap stop EXIT
     "$here/scripts/wine-run" --prefix "$WINEPREFIX" reg delete 'HKCU\Software\Quorin' /f \
         >/dev/null 2>&1 || true
+    [ "${first_start:-0}" = 1 ] || set_setting Main Configured 1
 }
 
 # set_setting SECTION NAME VALUE

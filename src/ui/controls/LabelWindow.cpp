@@ -95,6 +95,20 @@ LRESULT LabelWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_MBUTTONUP:
             OnMouse(message, lParam);
             return 0;
+        case WM_GETDLGCODE: {
+            // Enter is the dialog's default key unless the focused label takes it.
+            const auto* key = reinterpret_cast<const MSG*>(lParam);
+            const bool enter =
+                key != nullptr && key->message == WM_KEYDOWN && key->wParam == VK_RETURN;
+            return enter ? DLGC_WANTMESSAGE : 0;
+        }
+        case WM_KEYDOWN:
+            OnKeyDown(wParam, lParam);
+            return 0;
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS:
+            Repaint();
+            return 0;
         case WM_CAPTURECHANGED:
             OnCaptureChanged(reinterpret_cast<HWND>(lParam));
             return 0;
@@ -163,6 +177,14 @@ void LabelWindow::OnMouse(UINT message, LPARAM lParam) {
     }
 }
 
+void LabelWindow::OnKeyDown(WPARAM key, LPARAM flags) {
+    constexpr LPARAM kRepeat = 1 << 30;  // held down: one click per press
+    if ((key == VK_RETURN || key == VK_SPACE) && (flags & kRepeat) == 0 && Enabled()) {
+        Clicked();
+        NotifyClick();  // last: the parent may destroy this label
+    }
+}
+
 void LabelWindow::OnCaptureChanged(HWND newOwner) {
     // Our own ReleaseCapture comes here with the model already idle; only a capture taken away
     // by another window (a menu, a message box) needs the underline and the press dropped.
@@ -198,6 +220,9 @@ void LabelWindow::Paint(HDC dc) {
     const std::wstring text = Widen(Caption());
     DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &area,
               kLineFormat | DT_CENTER | DT_VCENTER);
+    if (GetFocus() == hwnd()) {
+        DrawFocusRect(dc, &area);
+    }
 }
 
 }  // namespace quorin

@@ -34,6 +34,8 @@ struct LabelLook {
 // WM_GETTEXT work as for any control). Enabled is the window's enabled state: a disabled label
 // draws its caption in its look's disabled colour and ignores the mouse. The font is the one the
 // parent sends with WM_SETFONT, or else the system message font. Any mouse button presses.
+// A label made with WS_TABSTOP is reached with Tab like a button: it shows a focus rectangle
+// while it has the focus, and Enter or Space clicks it.
 class LabelWindow : public Window {
   public:
     std::string Caption() const;
@@ -79,6 +81,7 @@ class LabelWindow : public Window {
   private:
     void OnSetFont(HFONT font);
     void OnMouse(UINT message, LPARAM lParam);
+    void OnKeyDown(WPARAM key, LPARAM flags);
     void OnCaptureChanged(HWND newOwner);
     void OnDisabled();
     void NotifyClick();

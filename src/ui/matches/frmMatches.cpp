@@ -15,6 +15,7 @@
 #include "platform/Text.h"
 #include "ui/Dpi.h"
 #include "ui/Hourglass.h"
+#include "ui/ListViewColumn.h"
 #include "ui/WindowClass.h"
 #include "ui/WindowText.h"
 #include "ui/matches/MatchesLayout.h"
@@ -44,15 +45,6 @@ void RegisterMatchesClass() {
             {.name = kMatchesClass, .procedure = &Window::SelfOwnedProcedure<frmMatches>});
     }();
     static_cast<void>(atom);
-}
-
-void AddColumn(HWND list, int column, const wchar_t* title, int width) {
-    LVCOLUMNW header{};
-    header.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
-    header.pszText = const_cast<wchar_t*>(title);
-    header.cx = width;
-    header.iSubItem = column;
-    ListView_InsertColumn(list, column, &header);
 }
 
 void Place(HWND control, const TwipsRect& rect, int dpi) {
@@ -333,9 +325,9 @@ void frmMatches::CreateControls() {
                                  LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
                              kMatchesListId, WS_EX_CLIENTEDGE);
     ListView_SetExtendedListViewStyle(lvwItems, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
-    AddColumn(lvwItems, MatchesSort::kName, L"Name", TwipsToPixels(kNameColumnTwips, dpi_));
-    AddColumn(lvwItems, MatchesSort::kLocation, L"Location",
-              TwipsToPixels(kLocationColumnTwips, dpi_));
+    AddListColumn(lvwItems, MatchesSort::kName, L"Name", TwipsToPixels(kNameColumnTwips, dpi_));
+    AddListColumn(lvwItems, MatchesSort::kLocation, L"Location",
+                  TwipsToPixels(kLocationColumnTwips, dpi_));
     chkAssociate = CreateControl(hwnd(), L"BUTTON", "Always associate this word with this item",
                                  WS_TABSTOP | BS_AUTOCHECKBOX, kMatchesAssociateId);
     cmdOpen =

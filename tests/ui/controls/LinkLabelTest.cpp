@@ -83,6 +83,31 @@ TEST_F(LinkLabelTest, DisabledLinkNeitherUnderlinesNorClicks) {
     EXPECT_EQ(GetCapture(), nullptr);
 }
 
+TEST_F(LinkLabelTest, TheFocusedLinkShowsAFocusRectangleAndEnterOrSpaceClicksIt) {
+    SetFocus(link.hwnd());
+    ASSERT_EQ(GetFocus(), link.hwnd());
+    EXPECT_GT(test::Ink(link.hwnd()), plainInk);
+    const MSG enter{link.hwnd(), WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+    const MSG tab{link.hwnd(), WM_KEYDOWN, VK_TAB, 0, 0, {}};
+    EXPECT_EQ(SendMessageW(link.hwnd(), WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&enter)),
+              DLGC_WANTMESSAGE)
+        << "Enter is the link's, not the dialog's default";
+    EXPECT_EQ(SendMessageW(link.hwnd(), WM_GETDLGCODE, VK_TAB, reinterpret_cast<LPARAM>(&tab)), 0);
+
+    SendMessageW(link.hwnd(), WM_KEYDOWN, VK_RETURN, 0);
+    SendMessageW(link.hwnd(), WM_KEYDOWN, VK_SPACE, 0);
+    SendMessageW(link.hwnd(), WM_KEYDOWN, VK_SPACE, 1 << 30);  // held down
+    SendMessageW(link.hwnd(), WM_KEYDOWN, 'A', 0);
+    EXPECT_EQ(parent.commands.size(), 2u);
+    link.SetEnabled(false);
+    SendMessageW(link.hwnd(), WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_EQ(parent.commands.size(), 2u);
+
+    link.SetEnabled(true);
+    SetFocus(nullptr);
+    EXPECT_EQ(test::Ink(link.hwnd()), plainInk);
+}
+
 TEST_F(LinkLabelTest, SizeFollowsTheCaptionAtOnce) {
     link.SetCaption("Change file types that are indexed");
     EXPECT_GT(ClientSize(link.hwnd()).cx, size.cx);

@@ -1,0 +1,401 @@
+#include "ui/dialogs/frmWelcome.h"
+
+#include <commctrl.h>
+
+#include <array>
+
+#include "WelcomeDialog.h"
+#include "app/modGlobals.h"
+#include "index/clsIndex.h"
+#include "platform/Prompter.h"
+#include "platform/Text.h"
+#include "resource.h"
+#include "ui/Dpi.h"
+#include "ui/Hourglass.h"
+#include "ui/ListViewColumn.h"
+#include "ui/PaintDc.h"
+#include "ui/WindowText.h"
+#include "ui/dialogs/FileTypeLists.h"
+#include "ui/dialogs/KnownExtensions.h"
+#include "ui/help/Help.h"
+#include "ui/main/OptionsOpener.h"
+
+namespace quorin {
+
+namespace {
+
+constexpr int kProgressBlock = kWelcomePageCount;  // the progress page, after the four pages
+constexpr int kBlockSize = 10;
+constexpr int kSmallIconPixels = 16;  // at 96 DPI
+constexpr int kTypeColumnPixels = 80;
+constexpr int kDescriptionColumnPixels = 330;
+
+constexpr std::array<std::string_view, kWelcomePageCount> kTabCaptions = {"Welcome", "File Types",
+                                                                          "Drives", "Index"};
+
+constexpr std::string_view kConfirmCancelTitle = "Confirm cancel";
+constexpr std::string_view kConfirmCancelText =
+    "Are you sure you want to cancel? Quorin will not run until you complete this configuration "
+    "wizard.";
+
+std::string WelcomeText() {
+    const std::string crlf = "\r\n";
+    return std::string("Welcome to Quorin. Quorin will index your hard drive and ") +
+           "let you find any file, launch any program, or open any document... with just a word. " +
+           crlf + crlf +
+           "This configuration wizard will walk you through the steps of specifing what drive(s) "
+           "you want to index and what files types you want to include." +
+           crlf + crlf + "Click 'Next' to continue.";
+}
+
+}  // namespace
+
+frmWelcome::frmWelcome(WelcomeServices services)
+    : Dialog(IDD_WELCOME), services_(std::move(services)) {
+    ctlLinkLabel::Register();
+    ctlTabLabel::Register();
+}
+
+frmWelcome::~frmWelcome() = default;
+
+void frmWelcome::OnInit() {
+    Form_Load();
+}
+
+void frmWelcome::Form_Load() {
+    const Hourglass busy;
+    WizardActive() = true;
+    services_.help.Setup(hwnd());
+    lnkNext = ctlLinkLabel::From(Item(IDC_WELCOME_NEXT));
+    lnkFinish = ctlLinkLabel::From(Item(IDC_WELCOME_FINISH));
+    lnkCancel = ctlLinkLabel::From(Item(IDC_WELCOME_CANCEL));
+    lnkPrevious = ctlLinkLabel::From(Item(IDC_WELCOME_PREVIOUS));
+    lvwFileTypes = Item(IDC_WELCOME_FILETYPES);
+    Animation1 = Item(IDC_WELCOME_ANIMATION);
+    lblCounter = Item(IDC_WELCOME_COUNTER);
+
+    const int size = GetSystemMetrics(SM_CXSMICON);
+    icon_.reset(static_cast<HICON>(LoadImageW(
+        GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_QUORIN), IMAGE_ICON, size, size, 0)));
+    SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.get()));
+    SendMessageW(hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon_.get()));
+
+    SetText(Item(IDC_WELCOME_WELCOME), WelcomeText());
+    CreateTabs();
+    PrepareFileTypesList();
+    for (int block = 1; block <= kProgressBlock; ++block) {
+        ShowBlock(block, false);
+    }
+    ShowPage();
+    FillFileTypes();
+}
+
+// Made here rather than in the template, so they take the dialog's font like its controls.
+void frmWelcome::CreateTabs() {
+    tabLabel.Create(hwnd(), IDC_WELCOME_TAB0, kTabCaptions);
+    const auto font = SendMessageW(Item(IDC_WELCOME_WELCOME), WM_GETFONT, 0, 0);
+    for (int tab = 0; tab < tabLabel.Count(); ++tab) {
+        SendMessageW(tabLabel[tab].hwnd(), WM_SETFONT, static_cast<WPARAM>(font), FALSE);
+    }
+    tabLabel.PlaceInRow(0, 0);
+}
+
+void frmWelcome::PrepareFileTypesList() {
+    const int dpi = WindowDpi(hwnd());
+    const int iconSize = ScaleForDpi(kSmallIconPixels, dpi);
+    imlSmall.reset(ImageList_Create(iconSize, iconSize, ILC_COLOR32 | ILC_MASK, 0, 16));
+    ListView_SetImageList(lvwFileTypes, imlSmall.get(), LVSIL_SMALL);
+    ListView_SetExtendedListViewStyle(lvwFileTypes, LVS_EX_FULLROWSELECT);
+    AddListColumn(lvwFileTypes, 0, L"Type", ScaleForDpi(kTypeColumnPixels, dpi));
+    AddListColumn(lvwFileTypes, 1, L"Description", ScaleForDpi(kDescriptionColumnPixels, dpi));
+}
+
+// The band behind the tab row, in the colour of the unselected tabs.
+void frmWelcome::Form_Paint() {
+    PaintDc paint(hwnd());
+    RECT band{};
+    GetClientRect(hwnd(), &band);
+    RECT tab{};
+    GetWindowRect(tabLabel[0].hwnd(), &tab);
+    band.bottom = tab.bottom - tab.top;
+    FillRect(paint.get(), &band, GetSysColorBrush(COLOR_BTNSHADOW));
+}
+
+LRESULT frmWelcome::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_PAINT && tabLabel.Count() > 0) {
+        Form_Paint();
+        return 0;
+    }
+    const LRESULT result = Dialog::HandleMessage(message, wParam, lParam);
+    if (message == WM_DPICHANGED) {
+        tabLabel.PlaceInRow(0, 0);  // the new font has resized them
+    }
+    return result;
+}
+
+bool frmWelcome::OnKey(const MSG& message) {
+    const bool ctrlTab = message.wParam == VK_TAB && GetKeyState(VK_CONTROL) < 0;
+    if (!ctrlTab || !tabLabel[0].Enabled()) {
+        return false;
+    }
+    const int step = GetKeyState(VK_SHIFT) < 0 ? kWelcomePageCount - 1 : 1;
+    tabLabel_Click((page_ + step) % kWelcomePageCount);
+    return true;
+}
+
+void frmWelcome::DisableTabs() {
+    tabLabel.SetEnabled(false);
+}
+
+void frmWelcome::EnableTabs() {
+    tabLabel.SetEnabled(true);
+}
+
+void frmWelcome::BeginIndexing(const std::string& animationPath) {
+    SendMessageW(Animation1, ACM_OPENW, 0, reinterpret_cast<LPARAM>(Widen(animationPath).c_str()));
+    DisableTabs();
+}
+
+void frmWelcome::SetCounter(std::string_view text) {
+    SetText(lblCounter, text);
+}
+
+// Enter goes on with whichever of "Next >" and "Finish" is shown; Escape is "Cancel".
+void frmWelcome::OnOk() {
+    if (IsWindowVisible(lnkFinish->hwnd()) != FALSE) {
+        if (lnkFinish->Enabled()) {
+            lnkFinish_Click();
+        }
+    } else {
+        lnkNext_Click();
+    }
+}
+
+void frmWelcome::OnCancel() {
+    if (lnkCancel->Enabled()) {
+        lnkCancel_Click();
+    }
+}
+
+// The close box ends the wizard without the question, as the user plainly asked; the first
+// build cannot be cancelled, so it is not closed while that runs.
+void frmWelcome::OnClose() {
+    if (!services_.index.Indexing()) {
+        EndDialog(IDCANCEL);
+    }
+}
+
+void frmWelcome::OnDestroy() {
+    services_.help.Close();
+}
+
+void frmWelcome::OnCommand(int id, int code, HWND) {
+    if (code != kLabelClick) {
+        return;
+    }
+    if (id >= IDC_WELCOME_TAB0 && id < IDC_WELCOME_TAB0 + kWelcomePageCount) {
+        tabLabel_Click(id - IDC_WELCOME_TAB0);
+        return;
+    }
+    switch (id) {
+        case IDC_WELCOME_NEXT:
+            lnkNext_Click();
+            break;
+        case IDC_WELCOME_PREVIOUS:
+            lnkPrevious_Click();
+            break;
+        case IDC_WELCOME_FINISH:
+            lnkFinish_Click();
+            break;
+        case IDC_WELCOME_CANCEL:
+            lnkCancel_Click();
+            break;
+        case IDC_WELCOME_MORE:
+            lnkMore_Click();
+            break;
+        case IDC_WELCOME_CHANGE_FILETYPES:
+            lnkFileTypes_Click();
+            break;
+        case IDC_WELCOME_DRIVES:
+            lnkDrives_Click();
+            break;
+        default:
+            break;
+    }
+}
+
+LRESULT frmWelcome::OnNotify(const NMHDR& header) {
+    if (header.hwndFrom == lvwFileTypes && header.code == LVN_COLUMNCLICK) {
+        lvwFileTypes_ColumnClick(reinterpret_cast<const NMLISTVIEW&>(header).iSubItem);
+    }
+    return 0;
+}
+
+void frmWelcome::tabLabel_Click(int Index) {
+    page_ = Index;
+    ShowPage();
+}
+
+void frmWelcome::lnkNext_Click() {
+    if (page_ + 1 < kWelcomePageCount) {
+        ++page_;
+        ShowPage();
+    }
+}
+
+void frmWelcome::lnkPrevious_Click() {
+    if (page_ > 0) {
+        --page_;
+        ShowPage();
+    }
+}
+
+void frmWelcome::lnkMore_Click() {
+    services_.help.ShowTopic(kHelpSettingUp);
+}
+
+void frmWelcome::lnkFileTypes_Click() {
+    services_.options.ShowOptionsModal(hwnd(), kOptionsFileTypes);
+    FillFileTypes();
+}
+
+void frmWelcome::lnkDrives_Click() {
+    services_.options.ShowOptionsModal(hwnd(), kOptionsGeneral);
+}
+
+void frmWelcome::lnkCancel_Click() {
+    if (services_.prompter.Ask(kConfirmCancelTitle, kConfirmCancelText, PromptButtons::YesNo,
+                               PromptIcon::Question) == PromptAnswer::Yes) {
+        EndDialog(IDCANCEL);
+    }
+}
+
+void frmWelcome::lnkFinish_Click() {
+    ShowBlock(page_, false);
+    ShowBlock(kProgressBlock, true);
+    lnkPrevious->SetEnabled(false);
+    lnkFinish->SetEnabled(false);
+    lnkCancel->SetEnabled(false);
+    RedrawWindow(hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    try {
+        services_.index.CreateIndex(false, *this);
+    } catch (...) {
+        LeaveProgressPage();  // the error is shown; the user may try again or cancel
+        throw;
+    }
+    WizardActive() = false;
+    EndDialog(IDOK);
+}
+
+void frmWelcome::LeaveProgressPage() {
+    SendMessageW(Animation1, ACM_OPENW, 0, 0);
+    ShowBlock(kProgressBlock, false);
+    lnkFinish->SetEnabled(true);
+    lnkCancel->SetEnabled(true);
+    EnableTabs();
+    ShowPage();
+}
+
+void frmWelcome::lvwFileTypes_ColumnClick(int column) {
+    sort_.ColumnClick(column);
+    SortRows();
+}
+
+void frmWelcome::ShowPage() {
+    tabLabel[page_].SetSelected(true);
+    for (int page = 0; page < kWelcomePageCount; ++page) {
+        ShowBlock(page, page == page_);
+    }
+    const HWND focus = GetFocus();
+    const bool onwardFocused = focus == lnkNext->hwnd() || focus == lnkFinish->hwnd();
+    const bool last = page_ == kWelcomePageCount - 1;
+    // The one shown first, so that the dialog never finds itself without either.
+    const ctlLinkLabel* shown = last ? lnkFinish : lnkNext;
+    const ctlLinkLabel* hidden = last ? lnkNext : lnkFinish;
+    ShowWindow(shown->hwnd(), SW_SHOW);
+    ShowWindow(hidden->hwnd(), SW_HIDE);
+    lnkPrevious->SetEnabled(page_ != 0);
+    KeepFocusOnAVisibleLink(onwardFocused);
+}
+
+void frmWelcome::ShowBlock(int block, bool shown) const {
+    const int first = IDC_WELCOME_PAGE0 + block * kBlockSize;
+    for (int id = first; id < first + kBlockSize; ++id) {
+        if (const HWND control = Item(id)) {
+            ShowWindow(control, shown ? SW_SHOW : SW_HIDE);
+        }
+    }
+}
+
+// The focus stays on the onward link when it was there, and goes to it when hiding or disabling
+// the focused control left it with the dialog, with a hidden control or with nobody (the dialog
+// manager would hand it to the first control that takes it, which may be "Cancel").
+void frmWelcome::KeepFocusOnAVisibleLink(bool onwardFocused) {
+    const HWND focus = GetFocus();
+    const bool lost = focus == nullptr || focus == hwnd() ||
+                      (IsChild(hwnd(), focus) != FALSE &&
+                       (IsWindowVisible(focus) == FALSE || IsWindowEnabled(focus) == FALSE));
+    if (!lost && !onwardFocused) {
+        return;
+    }
+    const ctlLinkLabel* onward = IsWindowVisible(lnkNext->hwnd()) != FALSE ? lnkNext : lnkFinish;
+    SendMessageW(hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(onward->hwnd()), TRUE);
+}
+
+// The types the engine's filter lists, whichever its mode, as the classes root names them.
+void frmWelcome::FillFileTypes() {
+    const Hourglass busy;
+    ListView_DeleteAllItems(lvwFileTypes);
+    ImageList_RemoveAll(imlSmall.get());
+    rows_.clear();
+    ctlIconExtractor1.ImageListSmall(imlSmall.get());
+    const std::string filter = services_.index.Filter;
+    for (const std::string& ext : KnownExtensions(registry_)) {
+        if (FilterLists(filter, ext)) {
+            AddFileType(ext);
+        }
+    }
+    if (sort_.Sorted) {
+        SortRows();
+    }
+}
+
+void frmWelcome::AddFileType(const std::string& ext) {
+    const std::optional<int> image = ctlIconExtractor1.RetrieveExtIcon(ext);
+    Row& added = rows_.emplace_back(Row{Widen(ext), Widen(Description(ext))});
+    LVITEMW row{};
+    row.mask = LVIF_TEXT | LVIF_IMAGE | LVIF_PARAM;
+    row.iItem = ListView_GetItemCount(lvwFileTypes);
+    row.pszText = added.type.data();
+    row.iImage = image.value_or(I_IMAGENONE);
+    row.lParam = static_cast<LPARAM>(rows_.size() - 1);
+    const int inserted = ListView_InsertItem(lvwFileTypes, &row);
+    ListView_SetItemText(lvwFileTypes, inserted, 1, added.description.data());
+}
+
+// The extension's key names its class; the class's default value describes it.
+std::string frmWelcome::Description(const std::string& ext) const {
+    const std::string fileType = registry_.QueryValue(HKEY_CLASSES_ROOT, ext, "").AsText();
+    if (fileType.empty()) {
+        return {};
+    }
+    return registry_.QueryValue(HKEY_CLASSES_ROOT, fileType, "").AsText();
+}
+
+const std::wstring& frmWelcome::Row::Text(int column) const {
+    return column == 0 ? type : description;
+}
+
+int CALLBACK frmWelcome::CompareRows(LPARAM first, LPARAM second, LPARAM self) {
+    const auto& form = *reinterpret_cast<const frmWelcome*>(self);
+    const int column = form.sort_.SortKey;
+    const int order = lstrcmpiW(form.rows_.at(static_cast<size_t>(first)).Text(column).c_str(),
+                                form.rows_.at(static_cast<size_t>(second)).Text(column).c_str());
+    return form.sort_.SortOrder == MatchesSortOrder::Descending ? -order : order;
+}
+
+void frmWelcome::SortRows() {
+    ListView_SortItems(lvwFileTypes, &CompareRows, reinterpret_cast<LPARAM>(this));
+}
+
+}  // namespace quorin

@@ -1,0 +1,114 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "index/IndexProgress.h"
+#include "platform/WinHandles.h"
+#include "platform/registry/clsRegistry.h"
+#include "ui/Dialog.h"
+#include "ui/controls/TabRow.h"
+#include "ui/controls/ctlLinkLabel.h"
+#include "ui/matches/MatchesSort.h"
+#include "ui/matches/ctlIconExtractor.h"
+
+namespace quorin {
+
+class clsIndex;
+class Help;
+class OptionsOpener;
+class Prompter;
+
+// What the wizard works with.
+struct WelcomeServices {
+    clsIndex& index;
+    Prompter& prompter;
+    OptionsOpener& options;
+    Help& help;
+};
+
+inline constexpr int kWelcomePageCount = 4;
+
+// "Welcome to Quorin": the first-run wizard. Four pages (welcome, file types, drives, index)
+// reached by their tabs and by "< Previous" and "Next >"; what is indexed is changed through the
+// Options dialog; Ctrl+Tab and Ctrl+Shift+Tab go round the pages as the tabs do. Finish builds the
+// first index on the progress page and closes the wizard. The
+// wizard-active flag is set while it is open and cleared only by Finish, so that start-up knows
+// whether the first index was built.
+class frmWelcome final : public Dialog, public ProgressWindow {
+  public:
+    explicit frmWelcome(WelcomeServices services);
+    ~frmWelcome() override;
+
+    void DisableTabs();
+    void EnableTabs();
+
+    void BeginIndexing(const std::string& animationPath) override;
+    void SetCounter(std::string_view text) override;
+    void EndIndexing() override {}  // Finish tidies the wizard itself
+
+    int CurrentPage() const { return page_; }
+
+  protected:
+    void OnInit() override;
+    void OnOk() override;
+    void OnCancel() override;
+    void OnClose() override;
+    void OnDestroy() override;
+    bool OnKey(const MSG& message) override;
+    void OnCommand(int id, int code, HWND control) override;
+    LRESULT OnNotify(const NMHDR& header) override;
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  private:
+    struct Row {
+        std::wstring type;
+        std::wstring description;
+        const std::wstring& Text(int column) const;
+    };
+
+    void Form_Load();
+    void Form_Paint();
+    void CreateTabs();
+    void PrepareFileTypesList();
+    void tabLabel_Click(int Index);
+    void lnkNext_Click();
+    void lnkPrevious_Click();
+    void lnkMore_Click();
+    void lnkFileTypes_Click();
+    void lnkDrives_Click();
+    void lnkCancel_Click();
+    void lnkFinish_Click();
+    void lvwFileTypes_ColumnClick(int column);
+
+    void ShowPage();
+    void ShowBlock(int block, bool shown) const;
+    void KeepFocusOnAVisibleLink(bool onwardFocused);
+    void FillFileTypes();
+    void AddFileType(const std::string& ext);
+    std::string Description(const std::string& ext) const;
+    void SortRows();
+    static int CALLBACK CompareRows(LPARAM first, LPARAM second, LPARAM self);
+    void LeaveProgressPage();
+
+    WelcomeServices services_;
+    int page_ = 0;
+    TabRow tabLabel;
+    ctlLinkLabel* lnkNext = nullptr;
+    ctlLinkLabel* lnkFinish = nullptr;
+    ctlLinkLabel* lnkCancel = nullptr;
+    ctlLinkLabel* lnkPrevious = nullptr;
+    HWND lvwFileTypes = nullptr;
+    HWND Animation1 = nullptr;
+    HWND lblCounter = nullptr;
+    UniqueImageList imlSmall;
+    UniqueIcon icon_;
+    ctlIconExtractor ctlIconExtractor1;
+    clsRegistry registry_;
+    std::vector<Row> rows_;
+    MatchesSort sort_;
+};
+
+}  // namespace quorin

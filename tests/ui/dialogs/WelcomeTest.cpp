@@ -1,0 +1,297 @@
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "DialogTestHelpers.h"
+#include "WelcomeDialog.h"
+#include "app/modGlobals.h"
+#include "platform/Path.h"
+#include "platform/Text.h"
+#include "platform/registry/ScratchClasses.h"
+#include "ui/WindowText.h"
+#include "ui/controls/ctlLinkLabel.h"
+#include "ui/controls/ctlTabLabel.h"
+#include "ui/dialogs/frmWelcome.h"
+#include "ui/main/MainFakes.h"
+
+namespace quorin::test {
+namespace {
+
+constexpr char kShell32Icon[] = "%SystemRoot%\\system32\\shell32.dll,-152";
+
+struct Row {
+    std::string type;
+    std::string description;
+    bool hasIcon;
+    bool operator==(const Row&) const = default;
+    friend void PrintTo(const Row& row, std::ostream* out) {
+        *out << row.type << " \"" << row.description << "\"" << (row.hasIcon ? " icon" : "");
+    }
+};
+
+class WelcomeTest : public ProgramFixture {
+  protected:
+    WelcomeTest() {
+        classes.RegisterType(".wzt", "QuorinWizard.Text", "Wizard text", kShell32Icon);
+        classes.RegisterType(".wzb", "QuorinWizard.Bare", "A bare type", "");
+        classes.RegisterType(".wzq", "QuorinWizard.Other", "Not in the filter", kShell32Icon);
+        // All-except mode: the wizard lists what the filter names all the same.
+        settings.Save("Index", "Filter", ".WZT .WZB ");
+        index.Get().UpdateSettings();
+    }
+
+    void Open() {
+        wizard.ShowModeless(nullptr);
+        SetForegroundWindow(wizard.hwnd());
+    }
+    HWND Field(int id) const { return GetDlgItem(wizard.hwnd(), id); }
+    bool Shown(int id) const { return IsWindowVisible(Field(id)) != FALSE; }
+    bool Enabled(int id) const { return IsWindowEnabled(Field(id)) != FALSE; }
+    void Click(int id) const {
+        SendMessageW(wizard.hwnd(), WM_COMMAND, MAKEWPARAM(id, kLabelClick),
+                     reinterpret_cast<LPARAM>(Field(id)));
+    }
+    // The way a user selects a tab: press and release on it.
+    void ClickTab(int tab) const {
+        const HWND label = Field(IDC_WELCOME_TAB0 + tab);
+        SendMessageW(label, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+        SendMessageW(label, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+    }
+    void ClickColumn(int column) const {
+        NMLISTVIEW click{};
+        click.hdr = {Field(IDC_WELCOME_FILETYPES), IDC_WELCOME_FILETYPES, LVN_COLUMNCLICK};
+        click.iSubItem = column;
+        SendMessageW(wizard.hwnd(), WM_NOTIFY, IDC_WELCOME_FILETYPES,
+                     reinterpret_cast<LPARAM>(&click));
+    }
+    // The page that is shown, by the first control of each page.
+    int PageShown() const {
+        int shown = -1;
+        for (int page = 0; page < kWelcomePageCount; ++page) {
+            if (Shown(IDC_WELCOME_PAGE0 + page * 10)) {
+                EXPECT_EQ(shown, -1) << "two pages at once";
+                shown = page;
+            }
+        }
+        EXPECT_EQ(shown, wizard.CurrentPage());
+        EXPECT_TRUE(ctlTabLabel::From(Field(IDC_WELCOME_TAB0 + shown))->Selected());
+        return shown;
+    }
+    std::vector<Row> Rows() const {
+        const HWND list = Field(IDC_WELCOME_FILETYPES);
+        std::vector<Row> rows;
+        for (int i = 0; i < ListView_GetItemCount(list); ++i) {
+            wchar_t text[64] = {};
+            wchar_t description[64] = {};
+            LVITEMW item{};
+            item.mask = LVIF_TEXT | LVIF_IMAGE;
+            item.iItem = i;
+            item.pszText = text;
+            item.cchTextMax = 64;
+            ListView_GetItem(list, &item);
+            ListView_GetItemText(list, i, 1, description, 64);
+            if (Narrow(text).starts_with(".wz")) {
+                rows.push_back({Narrow(text), Narrow(description), item.iImage >= 0});
+            }
+        }
+        return rows;
+    }
+
+    ScratchClasses classes;
+    frmWelcome wizard{WelcomeServices{index.Get(), prompter, options, help}};
+};
+
+TEST_F(WelcomeTest, PagesGoInOrderWithTheirLinksShownAsThePageAllows) {
+    Open();
+    EXPECT_EQ(WindowText(wizard.hwnd()), "Welcome to Quorin");
+    EXPECT_TRUE(WizardActive());
+    EXPECT_EQ(WindowText(Field(IDC_WELCOME_WELCOME)),
+              "Welcome to Quorin. Quorin will index your hard drive and let you find any file, "
+              "launch any program, or open any document... with just a word. \r\n\r\nThis "
+              "configuration wizard will walk you through the steps of specifing what drive(s) "
+              "you want to index and what files types you want to include.\r\n\r\nClick 'Next' "
+              "to continue.");
+    std::vector<std::string> captions;
+    RECT previous{};
+    for (int tab = 0; tab < kWelcomePageCount; ++tab) {
+        const HWND label = Field(IDC_WELCOME_TAB0 + tab);
+        captions.push_back(WindowText(label));
+        RECT box{};
+        GetWindowRect(label, &box);
+        if (tab > 0) {
+            EXPECT_EQ(box.left, previous.right) << "tab " << tab << " starts where the last ends";
+            EXPECT_EQ(box.top, previous.top);
+        }
+        previous = box;
+    }
+    EXPECT_EQ(captions, (std::vector<std::string>{"Welcome", "File Types", "Drives", "Index"}));
+
+    EXPECT_EQ(PageShown(), 0);
+    EXPECT_FALSE(Enabled(IDC_WELCOME_PREVIOUS));
+    EXPECT_TRUE(Shown(IDC_WELCOME_NEXT));
+    EXPECT_FALSE(Shown(IDC_WELCOME_FINISH));
+    EXPECT_FALSE(Shown(IDC_WELCOME_ANIMATION)) << "the progress page waits for Finish";
+    for (int page = 1; page < kWelcomePageCount; ++page) {
+        Click(IDC_WELCOME_NEXT);
+        EXPECT_EQ(PageShown(), page);
+        EXPECT_TRUE(Enabled(IDC_WELCOME_PREVIOUS));
+        const bool last = page == kWelcomePageCount - 1;
+        EXPECT_EQ(Shown(IDC_WELCOME_NEXT), !last);
+        EXPECT_EQ(Shown(IDC_WELCOME_FINISH), last);
+    }
+    EXPECT_TRUE(Shown(IDC_WELCOME_USE));
+    Click(IDC_WELCOME_PREVIOUS);
+    EXPECT_EQ(PageShown(), 2);
+    EXPECT_TRUE(Shown(IDC_WELCOME_DRIVES));
+    ClickTab(0);
+    EXPECT_EQ(PageShown(), 0);
+    EXPECT_FALSE(Enabled(IDC_WELCOME_PREVIOUS));
+    ClickTab(3);
+    EXPECT_EQ(PageShown(), 3);
+    EXPECT_TRUE(Shown(IDC_WELCOME_FINISH));
+}
+
+TEST_F(WelcomeTest, EnterGoesOnEscapeCancelsAndTheFocusedLinkTakesEnterAndSpace) {
+    Open();
+    EXPECT_EQ(GetFocus(), Field(IDC_WELCOME_NEXT)) << "Enter presses \"Next >\"";
+    PressKey(VK_RETURN);
+    PressKey(VK_RETURN);
+    PressKey(VK_RETURN);
+    EXPECT_EQ(PageShown(), 3);
+    EXPECT_EQ(GetFocus(), Field(IDC_WELCOME_FINISH)) << "the focus follows Next to Finish";
+
+    prompter.answers = {PromptAnswer::No};
+    PressKey(VK_ESCAPE);
+    ASSERT_EQ(prompter.boxes.size(), 1u);
+    EXPECT_EQ(prompter.boxes[0].title, "Confirm cancel");
+
+    BYTE keys[256] = {};
+    GetKeyboardState(keys);
+    keys[VK_CONTROL] = 0x80;
+    SetKeyboardState(keys);
+    PressKey(VK_TAB);
+    EXPECT_EQ(PageShown(), 0) << "Ctrl+Tab goes round";
+    keys[VK_SHIFT] = 0x80;
+    SetKeyboardState(keys);
+    PressKey(VK_TAB);
+    EXPECT_EQ(PageShown(), 3) << "and back with Shift";
+    keys[VK_CONTROL] = keys[VK_SHIFT] = 0;
+    SetKeyboardState(keys);
+
+    ClickTab(0);
+    PressKey(VK_TAB);
+    PressKey(VK_TAB);
+    EXPECT_EQ(GetFocus(), Field(IDC_WELCOME_MORE)) << "Tab skips the disabled \"< Previous\"";
+    PressKey(VK_RETURN);
+    PressKey(VK_SPACE);
+    EXPECT_EQ(help.topics, (std::vector<int32_t>{20, 20}));
+    EXPECT_EQ(PageShown(), 0) << "Enter went to the focused link, not to Next";
+}
+
+TEST_F(WelcomeTest, CancelAsksAndNoStaysOnThePageWhileYesEndsTheWizardStillPending) {
+    Open();
+    Click(IDC_WELCOME_NEXT);
+    Click(IDC_WELCOME_NEXT);
+    prompter.answers = {PromptAnswer::No, PromptAnswer::Yes};
+    Click(IDC_WELCOME_CANCEL);
+    ASSERT_EQ(prompter.boxes.size(), 1u);
+    EXPECT_EQ(prompter.boxes[0].text,
+              "Are you sure you want to cancel? Quorin will not run until you complete this "
+              "configuration wizard.");
+    EXPECT_EQ(prompter.boxes[0].buttons, PromptButtons::YesNo);
+    EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Question);
+    ASSERT_TRUE(IsWindow(wizard.hwnd()));
+    EXPECT_EQ(PageShown(), 2);
+
+    Click(IDC_WELCOME_CANCEL);
+    EXPECT_FALSE(IsWindow(wizard.hwnd()));
+    EXPECT_TRUE(WizardActive());
+    EXPECT_EQ(help.closes, 1) << "help goes with the wizard";
+    EXPECT_FALSE(std::filesystem::exists(JoinPath(program.Path(), "index.txt")));
+}
+
+TEST_F(WelcomeTest, FinishBuildsOnTheProgressPageThenCloses) {
+    tree.WriteFile("sub\\plan.txt", "x");
+    Open();
+    ClickTab(3);
+    bool progressShown = false;
+    bool linksHeld = false;
+    bool tabsDisabled = false;
+    bool closedDuringBuild = false;
+    events.onEvents = [&] {
+        closedDuringBuild = closedDuringBuild || IsWindow(wizard.hwnd()) == FALSE;
+        progressShown =
+            Shown(IDC_WELCOME_ANIMATION) && Shown(IDC_WELCOME_COUNTER) && !Shown(IDC_WELCOME_READY);
+        linksHeld = !Enabled(IDC_WELCOME_PREVIOUS) && !Enabled(IDC_WELCOME_FINISH) &&
+                    !Enabled(IDC_WELCOME_CANCEL);
+        tabsDisabled = !Enabled(IDC_WELCOME_TAB0) && !Enabled(IDC_WELCOME_TAB0 + 3);
+        PostMessageW(wizard.hwnd(), WM_CLOSE, 0, 0);  // the build cannot be closed away
+    };
+    Click(IDC_WELCOME_FINISH);
+    EXPECT_TRUE(progressShown);
+    EXPECT_TRUE(linksHeld);
+    EXPECT_TRUE(tabsDisabled);
+    EXPECT_FALSE(closedDuringBuild);
+    EXPECT_FALSE(IsWindow(wizard.hwnd()));
+    EXPECT_FALSE(WizardActive());
+    EXPECT_NE(index.Get().LastUpdated, 0);
+    const std::optional<MatchList> found = index.Get().FindMatch("plan");
+    ASSERT_TRUE(found.has_value());
+    EXPECT_EQ(found->Count(), 1);
+    EXPECT_TRUE(prompter.boxes.empty());
+}
+
+TEST_F(WelcomeTest, ListsTheFilterTypesWithTheirDescriptionsAndNoIconWhereThereIsNone) {
+    Open();
+    std::vector<Row> rows = Rows();
+    std::sort(rows.begin(), rows.end(), [](const Row& a, const Row& b) { return a.type < b.type; });
+    EXPECT_EQ(rows,
+              (std::vector<Row>{{".wzb", "A bare type", false}, {".wzt", "Wizard text", true}}));
+}
+
+TEST_F(WelcomeTest, ChangingFileTypesInOptionsRefillsTheListAndDrivesOpenGeneral) {
+    Open();
+    options.onModal = [&] {
+        settings.Save("Index", "Filter", ".WZQ .WZB ");
+        index.Get().UpdateSettings();
+    };
+    Click(IDC_WELCOME_CHANGE_FILETYPES);
+    EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes}));
+    EXPECT_EQ(options.modalOwners, (std::vector<HWND>{wizard.hwnd()}));
+    std::vector<Row> rows = Rows();
+    std::sort(rows.begin(), rows.end(), [](const Row& a, const Row& b) { return a.type < b.type; });
+    EXPECT_EQ(rows, (std::vector<Row>{{".wzb", "A bare type", false},
+                                      {".wzq", "Not in the filter", true}}));
+
+    options.onModal = nullptr;
+    EXPECT_EQ(WindowText(Field(IDC_WELCOME_DRIVES)), "click here.");
+    Click(IDC_WELCOME_DRIVES);
+    EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes, kOptionsGeneral}));
+    Click(IDC_WELCOME_MORE);
+    EXPECT_EQ(help.topics, (std::vector<int32_t>{20}));
+}
+
+TEST_F(WelcomeTest, AColumnClickSortsByItAndASecondClickTurnsTheOrder) {
+    Open();
+    const auto types = [&] {
+        std::vector<std::string> texts;
+        for (const Row& row : Rows()) {
+            texts.push_back(row.type);
+        }
+        return texts;
+    };
+    ClickColumn(1);
+    EXPECT_EQ(types(), (std::vector<std::string>{".wzb", ".wzt"})) << "by description, A to Z";
+    ClickColumn(1);
+    EXPECT_EQ(types(), (std::vector<std::string>{".wzt", ".wzb"}));
+    ClickColumn(0);
+    EXPECT_EQ(types(), (std::vector<std::string>{".wzb", ".wzt"})) << "a new column: ascending";
+}
+
+}  // namespace
+}  // namespace quorin::test
