@@ -36,9 +36,10 @@ register_type .zip QuorinFirstRun.Zip 'Compressed Folder' ''
 wineserver -w
 
 # The wizard is centred on the desktop; its navigation links and close box are here.
-next_or_finish() { click 765 551; }
-close_box() { click 891 236; }
-crop_wizard() { convert "$shots/$1.png" -crop 532x352+373+224 +repage "$shots/$1.png"; }
+wizard_area=532x352+373+224
+next_or_finish() { click_and_wait 765 551 "$wizard_area"; }
+close_box() { xdotool mousemove 891 236 click 1; }
+crop_wizard() { convert "$shots/$1.png" -crop "$wizard_area" +repage "$shots/$1.png"; }
 
 wizard_shown() { window_shown '^Welcome to Quorin$'; }
 wizard_gone() { ! wizard_shown; }
@@ -53,7 +54,7 @@ shown_from_tray() {
 
 start_program
 wait_until 60 "no wizard at the first start" wizard_shown
-sleep 2
+settled "$wizard_area"
 shot wizard-welcome
 [ ! -f "$program/index.txt" ] || fail "an index before Finish"
 for page in file-types drives index; do

@@ -58,8 +58,9 @@ frmWelcome::frmWelcome(WelcomeServices services)
 
 frmWelcome::~frmWelcome() = default;
 
-void frmWelcome::OnInit() {
+bool frmWelcome::OnInit() {
     Form_Load();
+    return true;
 }
 
 void frmWelcome::Form_Load() {

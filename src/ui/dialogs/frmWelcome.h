@@ -52,7 +52,7 @@ class frmWelcome final : public Dialog, public ProgressWindow {
     int CurrentPage() const { return page_; }
 
   protected:
-    void OnInit() override;
+    bool OnInit() override;
     void OnOk() override;
     void OnCancel() override;
     void OnClose() override;
