@@ -15,13 +15,7 @@ first_start=1
 . "$(dirname "$0")/lib.sh"
 prepare_program
 
-# Enough folders for the progress page to be seen.
-if [ ! -d "$tree/dir60" ]; then
-    for a in $(seq 1 60); do
-        for b in $(seq 1 60); do mkdir -p "$tree/dir$a/sub$b"; done
-        touch "$tree/dir$a/notes$a.txt"
-    done
-fi
+make_tree 60 60
 set_setting Index DriveCount 1
 set_setting Index Drive0 'C:\first-run-tree'
 # File types of the default filter for the wizard's list, one of them without an icon.

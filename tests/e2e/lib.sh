@@ -69,6 +69,16 @@ prepare_program() {
     [ "${first_start:-0}" = 1 ] || set_setting Main Configured 1
 }
 
+# A tree of FOLDERS x SUBFOLDERS folders at $tree, each of the first level with a file
+# notesN.txt, big enough for a build's progress to be seen; made once per prefix.
+make_tree() {  # FOLDERS SUBFOLDERS
+    [ ! -d "$tree/dir$1" ] || return 0
+    for a in $(seq 1 "$1"); do
+        for b in $(seq 1 "$2"); do mkdir -p "$tree/dir$a/sub$b"; done
+        touch "$tree/dir$a/notes$a.txt"
+    done
+}
+
 # set_setting SECTION NAME VALUE
 set_setting() { wine reg add "HKCU\\Software\\Quorin\\$1" /v "$2" /d "$3" /f >/dev/null; }
 

@@ -13,13 +13,7 @@ tree=$work/wineprefix/drive_c/e2e-tree
 . "$(dirname "$0")/lib.sh"
 prepare_program
 
-# A tree big enough for the progress panel to be seen: 80 x 40 folders.
-if [ ! -d "$tree/dir80" ]; then
-    for a in $(seq 1 80); do
-        for b in $(seq 1 40); do mkdir -p "$tree/dir$a/sub$b"; done
-        touch "$tree/dir$a/notes$a.txt"
-    done
-fi
+make_tree 80 40
 set_setting Index DriveCount 1
 set_setting Index Drive0 'C:\e2e-tree'
 set_setting Index Filter ''

@@ -7,6 +7,7 @@
 #include "platform/Path.h"
 #include "platform/Prompter.h"
 #include "platform/Text.h"
+#include "ui/ListViewColumn.h"
 #include "ui/dialogs/DialogTexts.h"
 #include "ui/dialogs/frmNewWord.h"
 
@@ -17,15 +18,6 @@ namespace {
 constexpr int kWordColumn = 0;
 constexpr int kFilenameColumn = 1;
 
-void AddColumn(HWND list, int column, const wchar_t* title, int width) {
-    LVCOLUMNW header{};
-    header.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
-    header.pszText = const_cast<wchar_t*>(title);
-    header.cx = width;
-    header.iSubItem = column;
-    ListView_InsertColumn(list, column, &header);
-}
-
 }  // namespace
 
 void WordsPage::FirstShown() {
@@ -33,8 +25,8 @@ void WordsPage::FirstShown() {
     ListView_SetExtendedListViewStyle(lvwWords, LVS_EX_FULLROWSELECT);
     RECT box{};
     GetClientRect(lvwWords, &box);
-    AddColumn(lvwWords, kWordColumn, L"Word", box.right / 3);
-    AddColumn(lvwWords, kFilenameColumn, L"Filename", box.right - box.right / 3);
+    AddListColumn(lvwWords, kWordColumn, L"Word", box.right / 3);
+    AddListColumn(lvwWords, kFilenameColumn, L"Filename", box.right - box.right / 3);
     FillWords();
 }
 
