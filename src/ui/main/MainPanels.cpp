@@ -49,6 +49,9 @@ HWND MainPanels::AddControl(int panel, const wchar_t* className, std::string_vie
 
 ctlLinkLabel* MainPanels::AddLink(int panel, int id, std::string_view caption, int left, int top) {
     ctlLinkLabel& link = ctlLinkLabel::Create(Panel(panel), id, caption, 0, 0);
+    // Tab reaches the links, and Enter or Space opens the one with the focus.
+    SetWindowLongPtrW(link.hwnd(), GWL_STYLE,
+                      GetWindowLongPtrW(link.hwnd(), GWL_STYLE) | WS_TABSTOP);
     placements_.push_back({link.hwnd(), {left, top, 0, 0}});
     return &link;
 }

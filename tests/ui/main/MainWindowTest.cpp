@@ -243,6 +243,25 @@ TEST_F(MainWindowTest, CtrlTabGoesRoundThePanelsButNeverToExit) {
     EXPECT_EQ(unloads, 0);
 }
 
+TEST_F(MainWindowTest, TabReachesThePanelsLinksAndEnterOpensTheFocusedOne) {
+    Load();
+    form->Show();
+    SetForegroundWindow(Window());
+    ClickTab(2);
+    SetFocus(Control(kIdGeneralOptions));
+    const auto press = [this](WPARAM key) {
+        PostMessageW(GetFocus(), WM_KEYDOWN, key, 0);
+        PostMessageW(GetFocus(), WM_KEYUP, key, 0);
+        events.pump.DoEvents();
+    };
+    press(VK_TAB);
+    EXPECT_EQ(GetFocus(), Control(kIdFileTypes));
+    press(VK_RETURN);
+    press(VK_TAB);
+    press(VK_SPACE);
+    EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes, kOptionsWords}));
+}
+
 TEST_F(MainWindowTest, ABuildDisablesTabsShowsProgressOnTopAndRefusesToExit) {
     tree.WriteFile("docs/a.txt", "a");
     Load();
