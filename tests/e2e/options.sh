@@ -39,11 +39,16 @@ options_shown() { window_shown '^Options$'; }
 options_gone() { ! options_shown; }
 new_word_shown() { window_shown '^Add New Word$'; }
 
-# The Options panel's link at Y opens the dialog; keys go to it once it has the focus.
+# The Options panel's link at Y opens the dialog; keys go to it once it has the focus. The panel
+# may be up already, so the tab's click is given again rather than waited for.
 open_options() {  # LINK_Y
-    click_and_wait 550 379 "$main_area"
-    xdotool mousemove 525 "$1" click 1
-    wait_until 20 "the Options link at $1 opened no dialog" options_shown
+    for _ in 1 2 3; do
+        xdotool mousemove 550 379 click 1
+        settled "$main_area"
+        xdotool mousemove 525 "$1" click 1
+        poll 10 options_shown && break
+    done
+    options_shown || fail "the Options link at $1 opened no dialog"
     wait_until 10 "the Options dialog did not take the focus" has_focus '^Options$'
 }
 
