@@ -68,8 +68,8 @@ done
 wait_until 20 "no entry among the installed programs" arp_lists 1.0.0
 [ "$(arp_value 1.0.0 DisplayName)" = Quorin ] || fail "the installed programs list no Quorin"
 
-# A small tree to index, so that the first build is quick. Until the first-run wizard sets up a
-# new user, "Configured" is set here and the start asks "Missing index".
+# A user set up as the first-run wizard leaves one ("Configured"), with a small tree to index
+# and no index yet: the start asks "Missing index".
 mkdir -p "$WINEPREFIX/drive_c/e2e-tree/docs"
 touch "$WINEPREFIX/drive_c/e2e-tree/docs/notes1.txt"
 set_setting Main Configured 1
