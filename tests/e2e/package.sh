@@ -68,6 +68,8 @@ done
 [ "$(run_value)" = "\"$target\" /tray" ] || fail "the Run value reads '$(run_value)'"
 wait_until 20 "no entry among the installed programs" arp_lists 1.0.0
 [ "$(arp_value 1.0.0 DisplayName)" = Quorin ] || fail "the installed programs list no Quorin"
+[ "$(arp_value 1.0.0 InstallLocation)" = "${target%quorin.exe}" ] ||
+    fail "the installed programs give the folder as '$(arp_value 1.0.0 InstallLocation)'"
 
 # A user set up as the first-run wizard leaves one ("Configured"), with a small tree to index
 # and no index yet: the start asks "Missing index".
