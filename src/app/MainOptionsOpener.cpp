@@ -15,7 +15,9 @@ OptionsServices MainOptionsOpener::Services() {
             {&SystemDriveEntries, &SystemDriveType},
             [] { return KnownExtensions(clsRegistry{}); },
             addWords_,
-            icon_};
+            icon_,
+            hotkeys_,
+            &signIn_};
 }
 
 // A second click on a link brings the open dialog forward at the link's page.

@@ -6,11 +6,14 @@
 #include <memory>
 
 #include "index/LazyIndex.h"
+#include "platform/Path.h"
 #include "platform/Prompter.h"
 #include "platform/SettingsStore.h"
+#include "platform/registry/SignInStart.h"
 #include "ui/dialogs/FileChooser.h"
 #include "ui/dialogs/frmOptions.h"
 #include "ui/help/Help.h"
+#include "ui/main/HotkeyTarget.h"
 #include "ui/main/OptionsOpener.h"
 
 namespace quorin {
@@ -25,6 +28,7 @@ class MainOptionsOpener final : public OptionsOpener {
     void SetMainWindow(HWND window) { mainWindow_ = window; }
     void SetAddWords(std::function<void()> addWords) { addWords_ = std::move(addWords); }
     void SetIcon(HICON icon) { icon_ = icon; }
+    void SetHotkeys(HotkeyTarget* hotkeys) { hotkeys_ = hotkeys; }
 
     void ShowOptions(int panel) override;
     void ShowOptionsModal(HWND owner, int panel) override;
@@ -40,6 +44,8 @@ class MainOptionsOpener final : public OptionsOpener {
     HWND mainWindow_ = nullptr;
     std::function<void()> addWords_;
     HICON icon_ = nullptr;
+    HotkeyTarget* hotkeys_ = nullptr;
+    SignInStart signIn_{SignInStart::Command(ExecutablePath())};
     std::unique_ptr<frmOptions> open_;
 };
 

@@ -11,12 +11,13 @@
 #include "platform/RegistrySettingsStore.h"
 #include "platform/ShellExecuteShell.h"
 #include "platform/Text.h"
+#include "platform/registry/SignInStart.h"
 #include "ui/MessagePump.h"
 #include "ui/help/ProgramHelp.h"
 
 namespace {
 
-int RunQuorin() {
+int RunQuorin(bool atSignIn) {
     using namespace quorin;
     const MainInstance instance;
     if (!instance.IsFirst()) {
@@ -47,9 +48,10 @@ int RunQuorin() {
         options.SetMainWindow(mainForm.hwnd());
         options.SetAddWords([&mainForm] { mainForm.AddWords(); });
         options.SetIcon(icon);
+        options.SetHotkeys(&mainForm);
     };
     Startup startup({settings, clock, prompter, shell, index, matches, options, help, programFolder,
-                     true, [] { PostQuitMessage(0); }, connect});
+                     !atSignIn, [] { PostQuitMessage(0); }, connect});
 
     const bool running = startup.Main();
     if (!running) {
@@ -60,9 +62,10 @@ int RunQuorin() {
 
 }  // namespace
 
-int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+// A start at sign-in (the Run value's switch) goes to the tray without the splash window.
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR arguments, int) {
     try {
-        return RunQuorin();
+        return RunQuorin(quorin::IsSignInStart(quorin::Narrow(arguments)));
     } catch (const std::exception& error) {
         MessageBoxW(nullptr, quorin::Widen(error.what()).c_str(), L"Quorin", MB_OK | MB_ICONERROR);
         return 1;

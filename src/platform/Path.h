@@ -17,6 +17,11 @@ std::string JoinPath(std::string_view folder, std::string_view name);
 // The folder that holds the running executable, without a trailing separator.
 std::string ExecutableFolder();
 
+#ifdef _WIN32
+// The full path of the running executable; empty when Windows cannot tell.
+std::string ExecutablePath();
+#endif
+
 // The root indexed when no drives are configured: "C:" on Windows, the home folder on POSIX.
 std::string DefaultRoot();
 

@@ -6,21 +6,28 @@
 
 namespace quorin {
 
-std::string ExecutableFolder() {
+std::string ExecutablePath() {
     std::wstring buffer(MAX_PATH, L'\0');
     for (;;) {
         const DWORD length =
             GetModuleFileNameW(nullptr, buffer.data(), static_cast<DWORD>(buffer.size()));
         if (length == 0) {
-            return ".";
+            return {};
         }
         if (length < buffer.size()) {
             buffer.resize(length);
-            const std::string path = Narrow(buffer);
-            return path.substr(0, path.rfind(kPathSeparator));
+            return Narrow(buffer);
         }
         buffer.resize(buffer.size() * 2);
     }
+}
+
+std::string ExecutableFolder() {
+    const std::string path = ExecutablePath();
+    if (path.empty()) {
+        return ".";
+    }
+    return path.substr(0, path.rfind(kPathSeparator));
 }
 
 std::string DefaultRoot() {

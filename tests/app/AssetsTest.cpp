@@ -14,9 +14,27 @@
 namespace quorin {
 namespace {
 
+// What Windows asks for from 100 % to 200 %: tray, title bar, taskbar, Start menu, Explorer.
+const std::vector<int> kCarriedSizes = {16, 20, 24, 32, 40, 48, 64, 96, 128, 256};
+
+TEST(Resources, IconsCarryEverySizeWindowsAsksFor) {
+    for (int id : {IDI_QUORIN, IDI_INDEXING}) {
+        const HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(id), RT_GROUP_ICON);
+        ASSERT_NE(found, nullptr);
+        const auto* group = static_cast<const BYTE*>(LockResource(LoadResource(nullptr, found)));
+        const int count = group[4] | (group[5] << 8);
+        std::vector<int> sizes;
+        for (int i = 0; i < count; ++i) {
+            const int width = group[6 + 14 * i];  // 0 stands for 256
+            sizes.push_back(width == 0 ? 256 : width);
+        }
+        EXPECT_EQ(sizes, kCarriedSizes);
+    }
+}
+
 TEST(Resources, IconsLoadAtEverySizeTheyCarry) {
     for (int id : {IDI_QUORIN, IDI_INDEXING}) {
-        for (int size : {16, 20, 24, 32, 48, 256}) {
+        for (int size : kCarriedSizes) {
             SCOPED_TRACE(testing::Message() << "icon " << id << " at " << size);
             const UniqueIcon icon(static_cast<HICON>(LoadImageW(
                 GetModuleHandleW(nullptr), MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, 0)));

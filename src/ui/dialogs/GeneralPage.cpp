@@ -1,5 +1,10 @@
 #include "ui/dialogs/GeneralPage.h"
 
+#include <commctrl.h>
+
+#include <array>
+#include <utility>
+
 #include "OptionsDialog.h"
 #include "index/clsIndex.h"
 #include "platform/Text.h"
@@ -17,6 +22,29 @@ void SetChecked(HWND box, bool checked) {
 
 bool Checked(HWND box) {
     return SendMessageW(box, BM_GETCHECK, 0, 0) == BST_CHECKED;
+}
+
+// The hotkey control speaks HOTKEYF_ flags, RegisterHotKey MOD_ flags.
+constexpr std::array<std::pair<unsigned, unsigned>, 3> kFlagPairs = {{
+    {HOTKEYF_CONTROL, MOD_CONTROL},
+    {HOTKEYF_ALT, MOD_ALT},
+    {HOTKEYF_SHIFT, MOD_SHIFT},
+}};
+
+WPARAM ControlValue(const Hotkey& hotkey) {
+    unsigned flags = 0;
+    for (const auto& [control, modifier] : kFlagPairs) {
+        flags |= (hotkey.modifiers & modifier) != 0 ? control : 0;
+    }
+    return MAKEWORD(hotkey.key, flags);
+}
+
+Hotkey FromControlValue(LRESULT value) {
+    Hotkey hotkey{0, LOBYTE(LOWORD(value))};
+    for (const auto& [control, modifier] : kFlagPairs) {
+        hotkey.modifiers |= (HIBYTE(LOWORD(value)) & control) != 0 ? modifier : 0;
+    }
+    return hotkey;
 }
 
 }  // namespace
@@ -38,6 +66,43 @@ void GeneralPage::Load(const clsIndex& index, const DriveSource& drives) {
             SendMessageW(lstDrives, LB_SETSEL, TRUE, static_cast<LPARAM>(i));
         }
     }
+}
+
+void GeneralPage::LoadStart(const std::optional<Hotkey>& hotkey, bool signIn,
+                            HotkeyTarget* hotkeys) {
+    hotkeys_ = hotkeys;
+    const HWND field = Item(IDC_OPTIONS_HOTKEY);
+    // A key without Ctrl or Alt would be taken from everything the user types.
+    SendMessageW(field, HKM_SETRULES, HKCOMB_NONE | HKCOMB_S, MAKELPARAM(HOTKEYF_ALT, 0));
+    const Hotkey shown = hotkey.value_or(*ParseHotkey(kDefaultHotkeyText));
+    SendMessageW(field, HKM_SETHOTKEY, ControlValue(shown), 0);
+    SetChecked(Item(IDC_OPTIONS_USEHOTKEY), hotkey.has_value());
+    SetChecked(Item(IDC_OPTIONS_SIGNIN), signIn);
+    ShowHotkeyState();
+}
+
+std::optional<Hotkey> GeneralPage::ChosenHotkey() const {
+    if (!Checked(Item(IDC_OPTIONS_USEHOTKEY))) {
+        return std::nullopt;
+    }
+    // Through the text form, so that an empty field, or what the setting could not hold, is none.
+    return ParseHotkey(FormatHotkey(
+        FromControlValue(SendMessageW(Item(IDC_OPTIONS_HOTKEY), HKM_GETHOTKEY, 0, 0))));
+}
+
+bool GeneralPage::SignIn() const {
+    return Checked(Item(IDC_OPTIONS_SIGNIN));
+}
+
+// The field is usable only while the box is ticked; the line below it says when another
+// program holds the combination.
+void GeneralPage::ShowHotkeyState() {
+    EnableWindow(Item(IDC_OPTIONS_HOTKEY), Checked(Item(IDC_OPTIONS_USEHOTKEY)));
+    const std::optional<Hotkey> chosen = ChosenHotkey();
+    const bool taken = chosen && hotkeys_ != nullptr && !hotkeys_->HotkeyFree(*chosen);
+    SetText(Item(IDC_OPTIONS_HOTKEYINUSE),
+            taken ? FormatHotkey(*chosen).append(" is in use by another program. Choose another.")
+                  : "");
 }
 
 void GeneralPage::Collect(IndexOptions& options) const {
@@ -64,6 +129,11 @@ void GeneralPage::txtInterval_LostFocus() {
 }
 
 void GeneralPage::OnCommand(int id, int code, HWND control) {
+    if ((id == IDC_OPTIONS_USEHOTKEY && code == BN_CLICKED) ||
+        (id == IDC_OPTIONS_HOTKEY && code == EN_CHANGE)) {
+        ShowHotkeyState();
+        return;
+    }
     if (id != IDC_OPTIONS_INTERVAL) {
         return;
     }

@@ -8,6 +8,7 @@
 #include "platform/Errors.h"
 #include "platform/Prompter.h"
 #include "platform/SettingsStore.h"
+#include "platform/registry/SignInStart.h"
 #include "ui/FocusColors.h"
 #include "ui/dialogs/DialogTexts.h"
 #include "ui/help/Help.h"
@@ -76,6 +77,9 @@ void frmOptions::Form_Load() {
     const clsIndex& index = services_.index;
     fileTypesPage_.Load(index.Filter, index.FilterIsInclude, services_.extensions);
     generalPage_.Load(index, services_.drives);
+    generalPage_.LoadStart(LoadHotkey(services_.settings),
+                           services_.signIn != nullptr && services_.signIn->IsOn(),
+                           services_.hotkeys);
 }
 
 OptionsPage& frmOptions::Page(int page) {
@@ -159,6 +163,7 @@ void frmOptions::cmdOK_Click() {
     if (!SaveSettings()) {
         return;
     }
+    SaveStartOptions();
     services_.index.UpdateSettings();
     if (wordsPage_.WordsChanged()) {
         services_.index.LoadWords();
@@ -191,6 +196,23 @@ bool frmOptions::SaveSettings() {
         return false;
     }
     return true;
+}
+
+// The hotkey is taken at once, not at the next start.
+void frmOptions::SaveStartOptions() {
+    const std::optional<Hotkey> hotkey = generalPage_.ChosenHotkey();
+    SaveHotkey(services_.settings, hotkey);
+    if (services_.hotkeys != nullptr) {
+        services_.hotkeys->ApplyHotkey(hotkey);
+    }
+    if (services_.signIn == nullptr) {
+        return;
+    }
+    if (generalPage_.SignIn()) {
+        services_.signIn->TurnOn();
+    } else if (services_.signIn->IsOn()) {
+        services_.signIn->TurnOff();
+    }
 }
 
 }  // namespace quorin

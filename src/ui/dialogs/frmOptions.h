@@ -13,6 +13,8 @@
 namespace quorin {
 
 class clsIndex;
+class HotkeyTarget;
+class SignInStart;
 class FileChooser;
 class Help;
 class Prompter;
@@ -31,11 +33,14 @@ struct OptionsServices {
     FileTypesPage::ExtensionSource extensions;  // the file types the classes root knows
     std::function<void()> AddWords;             // the main window's word list, reloaded
     HICON icon = nullptr;
+    HotkeyTarget* hotkeys = nullptr;      // the main window's hotkey, once it is loaded
+    const SignInStart* signIn = nullptr;  // the Run value; none: the box changes nothing
 };
 
 // "Options": what the index covers (drives, interval, folder options), which file types it
 // takes and the user's words, on three pages under a tab control. OK stores section "Index"
-// and tells the engine; Cancel stores nothing (words added or removed are saved already).
+// and tells the engine, the hotkey and the Run value; Cancel stores nothing (words added or removed
+// are saved already).
 class frmOptions final : public Dialog {
   public:
     explicit frmOptions(OptionsServices services);
@@ -59,6 +64,7 @@ class frmOptions final : public Dialog {
     void ShowPage();
     void cmdOK_Click();
     bool SaveSettings();
+    void SaveStartOptions();
     void LayOutPages();
     OptionsPage& Page(int page);
 

@@ -23,7 +23,6 @@ namespace quorin {
 namespace {
 
 constexpr DWORD kMainStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
-constexpr std::string_view kTip = "Quorin";
 constexpr std::string_view kIndexingTip = "Quorin (indexing...)";
 constexpr std::string_view kCannotExitText =
     "You cannot exit the program while it is indexing. Cancel the indexing then exit the "
@@ -64,7 +63,8 @@ void frmMain::Form_Load() {
     AddWords();
     // Let the word list and the layout settle before the icon invites the first click.
     MessagePump().DoEvents();
-    services_.tray.CreateIcon(hwnd(), icon_.get(), kTip);
+    hotkey_.Register(hwnd(), LoadHotkey(services_.settings));
+    services_.tray.CreateIcon(hwnd(), icon_.get(), Tip());
 }
 
 HICON frmMain::Icon(int resourceId) const {
@@ -184,7 +184,7 @@ void frmMain::EndIndexing() {
     SendMessageW(Animation1, ACM_OPENW, 0, 0);  // closes the file and stops playing
     ShowWindow(picPanel.Panel(kProgressPanel), SW_HIDE);
     EnableTabs();
-    services_.tray.ChangeIcon(hwnd(), icon_.get(), kTip);
+    services_.tray.ChangeIcon(hwnd(), icon_.get(), Tip());
 }
 
 void frmMain::Show(int maximum) {
@@ -214,6 +214,9 @@ LRESULT frmMain::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 return 0;
             }
             break;
+        case WM_HOTKEY:
+            Hotkey_Pressed(wParam);
+            return 0;
         case WM_ENDSESSION:
             if (wParam != FALSE) {
                 // The process may end before a build below returns and lets the unload run.
@@ -476,7 +479,7 @@ void frmMain::mnuSystrayGo_Click() {
 }
 
 void frmMain::mnuSystrayExit_Click() {
-    if (services_.index.Exists() && services_.index.Get().Indexing()) {
+    if (Indexing()) {
         ShowInFront();
         services_.prompter.Ask("Cannot exit", kCannotExitText, PromptButtons::Ok,
                                PromptIcon::Information);

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,8 @@
 #include "ui/controls/TabRow.h"
 #include "ui/controls/ctlLinkLabel.h"
 #include "ui/help/Help.h"
+#include "ui/main/GlobalHotkey.h"
+#include "ui/main/HotkeyTarget.h"
 #include "ui/main/MainBuilds.h"
 #include "ui/main/MainPanels.h"
 #include "ui/main/MatchesOpener.h"
@@ -87,7 +90,10 @@ struct MainServices {
 // The main window: a row of tabs over six stacked panels (word entry, index, options, help,
 // shutdown, and the progress of a build), living in the tray. It is the progress window of the
 // builds it starts and the search progress of Go.
-class frmMain final : public Window, public ProgressWindow, public SearchProgress {
+class frmMain final : public Window,
+                      public ProgressWindow,
+                      public SearchProgress,
+                      public HotkeyTarget {
   public:
     // Loads the window hidden: layout, remembered position, words and the tray icon.
     explicit frmMain(MainServices services);
@@ -112,6 +118,9 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     void Show(int maximum) override;
     void SetValue(int value) override;
     void Hide() override;
+
+    bool ApplyHotkey(const std::optional<Hotkey>& hotkey) override;
+    bool HotkeyFree(const Hotkey& hotkey) override;
 
     // A control of the window by its id, wherever it lies.
     HWND Control(int id) const;
@@ -148,6 +157,7 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     void lnkCancel_Click();
     void mnuSystrayGo_Click();
     void mnuSystrayExit_Click();
+    void Hotkey_Pressed(WPARAM id);
 
     void LayOut();
     void ShowPanel();
@@ -158,6 +168,8 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     void SelectPanel(int panel);
     void UpdateIndexPanel();
     HICON Icon(int resourceId) const;
+    bool Indexing() const;
+    std::string Tip() const;
 
     MainServices services_;
     MainBuilds builds_{services_.index, [this] { Unload(); }};
@@ -192,6 +204,7 @@ class frmMain final : public Window, public ProgressWindow, public SearchProgres
     UniqueIcon indexingIcon_;
     int currentTab_ = 0;
     RememberedPlace startPlace_;
+    GlobalHotkey hotkey_;
     bool unloaded_ = false;
     UINT taskbarCreated_ = 0;
 };

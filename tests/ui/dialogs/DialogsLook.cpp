@@ -1,9 +1,10 @@
 // A window to look at, not a test: the Options dialog at one of its pages, or the Add New Word
 // dialog, on a scratch program folder with one assigned word, the system's drives and file
-// types. dialogs_shots.sh takes the screenshots.
+// types, and Alt+Space held by another program. dialogs_shots.sh takes the screenshots.
 // Usage: dialogs_look general|filetypes|words|newword
 #include <windows.h>
 
+#include <optional>
 #include <string>
 
 #include "platform/registry/clsRegistry.h"
@@ -17,12 +18,19 @@
 namespace quorin::test {
 namespace {
 
+class AltSpaceHeldElsewhere final : public HotkeyTarget {
+  public:
+    bool ApplyHotkey(const std::optional<Hotkey>&) override { return true; }
+    bool HotkeyFree(const Hotkey& hotkey) override { return hotkey != Hotkey{MOD_ALT, VK_SPACE}; }
+};
+
 class Look final : public ProgramFixture {
   public:
     int Run(const std::wstring& what) {
         settings.Save("Index", "Filter", ".DOC .TXT .EXE ");
         settings.Save("Index", "FilterIsInclude", "True");
         settings.Save("Index", "Drive0", "C:");
+        settings.Save("Main", "Hotkey", "Alt+Space");
         index.Get().UpdateSettings();
         index.Get().AddWord({"budget", "budget 2026.xls", 0, "BUDGET"});
         if (what == L"newword") {
@@ -31,7 +39,8 @@ class Look final : public ProgramFixture {
         }
         frmOptions dialog({index.Get(), settings, prompter, help, files,
                            DriveSource{&SystemDriveEntries, &SystemDriveType},
-                           [] { return KnownExtensions(clsRegistry{}); }, nullptr, nullptr});
+                           [] { return KnownExtensions(clsRegistry{}); }, nullptr, nullptr,
+                           &hotkeys});
         dialog.Panel(what == L"filetypes" ? 1 : what == L"words" ? 2 : 0);
         return static_cast<int>(dialog.ShowModal(nullptr));
     }
@@ -39,6 +48,7 @@ class Look final : public ProgramFixture {
   private:
     void TestBody() override {}
     CommonFileChooser files;
+    AltSpaceHeldElsewhere hotkeys;
 };
 
 }  // namespace

@@ -4,17 +4,35 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "DialogTestHelpers.h"
 #include "OptionsDialog.h"
 #include "platform/Path.h"
 #include "platform/Text.h"
 #include "platform/TextFile.h"
+#include "platform/registry/SignInStart.h"
 #include "ui/WindowText.h"
 #include "ui/dialogs/frmOptions.h"
 #include "ui/main/MainFakes.h"
 
 namespace quorin::test {
 namespace {
+
+constexpr char kScratchRun[] = "Software\\QuorinTest\\Options\\Run";
+
+// The main window's hotkey as the dialog sees it.
+class FakeHotkeys final : public HotkeyTarget {
+  public:
+    bool ApplyHotkey(const std::optional<Hotkey>& hotkey) override {
+        applied.push_back(hotkey);
+        return true;
+    }
+    bool HotkeyFree(const Hotkey& hotkey) override { return hotkey != taken; }
+
+    std::vector<std::optional<Hotkey>> applied;
+    Hotkey taken{MOD_ALT, VK_SPACE};
+};
 
 class OptionsTest : public ProgramFixture {
   protected:
@@ -27,6 +45,7 @@ class OptionsTest : public ProgramFixture {
         settings.Save("Index", "FilterIsInclude", "True");
         index.Get().UpdateSettings();  // the dialog's services made the engine already
     }
+    ~OptionsTest() override { RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\QuorinTest\\Options"); }
 
     frmOptions& Open(int page) {
         dialog.Panel(page);
@@ -75,7 +94,22 @@ class OptionsTest : public ProgramFixture {
     bool Shown(int id) const { return IsWindowVisible(Control(id)) != FALSE; }
     std::string Setting(std::string_view key) const { return settings.Get("Index", key, "-"); }
 
+    // The user's click on a check box, which turns it over.
+    void Tick(int id) const { SendMessageW(Control(id), BM_CLICK, 0, 0); }
+    bool Ticked(int id) const {
+        return SendMessageW(Control(id), BM_GETCHECK, 0, 0) == BST_CHECKED;
+    }
+    // Keys pressed in the hotkey field.
+    void PressHotkey(WORD value) const {
+        const HWND field = Control(IDC_OPTIONS_HOTKEY);
+        SendMessageW(field, HKM_SETHOTKEY, value, 0);
+        SendMessageW(GetParent(field), WM_COMMAND, MAKEWPARAM(IDC_OPTIONS_HOTKEY, EN_CHANGE),
+                     reinterpret_cast<LPARAM>(field));
+    }
+
     FakeFileChooser files;
+    FakeHotkeys hotkeys;
+    SignInStart signIn{"\"C:\\Q\\quorin.exe\" /tray", kScratchRun};
     std::vector<std::string> roots;
     int addWords = 0;
     frmOptions dialog{OptionsServices{
@@ -91,7 +125,7 @@ class OptionsTest : public ProgramFixture {
         [] {
             return std::vector<std::string>{".doc", ".txt", ".bmp"};
         },
-        [this] { ++addWords; }, nullptr}};
+        [this] { ++addWords; }, nullptr, &hotkeys, &signIn}};
 };
 
 TEST_F(OptionsTest, OpensAtItsPageAndChangesPagesByTabKeysAndHelp) {
@@ -259,6 +293,63 @@ TEST_F(OptionsTest, OkAfterAWordChangeReloadsTheWordsForTheMainWindow) {
     Click(IDOK);
     EXPECT_EQ(addWords, 1);
     EXPECT_EQ(index.Get().Words().Count(), 0);
+}
+
+TEST_F(OptionsTest, GeneralPageTellsAHeldHotkeyAndOkTakesItAndTheSignInStartAtOnce) {
+    settings.Save("Main", "Hotkey", "Ctrl+Alt+Q");
+    Open(0);
+    const HWND field = Control(IDC_OPTIONS_HOTKEY);
+    EXPECT_EQ(SendMessageW(field, HKM_GETHOTKEY, 0, 0),
+              MAKEWORD('Q', HOTKEYF_CONTROL | HOTKEYF_ALT));
+    EXPECT_TRUE(Ticked(IDC_OPTIONS_USEHOTKEY));
+    EXPECT_TRUE(IsWindowEnabled(field));
+    EXPECT_EQ(WindowText(Control(IDC_OPTIONS_HOTKEYINUSE)), "");
+    EXPECT_FALSE(Ticked(IDC_OPTIONS_SIGNIN));
+
+    PressHotkey(MAKEWORD(VK_SPACE, HOTKEYF_ALT));
+    EXPECT_EQ(WindowText(Control(IDC_OPTIONS_HOTKEYINUSE)),
+              "Alt+Space is in use by another program. Choose another.");
+    PressHotkey(MAKEWORD(VK_F2, HOTKEYF_CONTROL));
+    EXPECT_EQ(WindowText(Control(IDC_OPTIONS_HOTKEYINUSE)), "");
+    EXPECT_TRUE(hotkeys.applied.empty()) << "nothing is taken before OK";
+
+    Tick(IDC_OPTIONS_SIGNIN);
+    Click(IDOK);
+    EXPECT_EQ(settings.Get("Main", "Hotkey", "-"), "Ctrl+F2");
+    EXPECT_EQ(hotkeys.applied, (std::vector<std::optional<Hotkey>>{Hotkey{MOD_CONTROL, VK_F2}}));
+    EXPECT_TRUE(signIn.IsOn());
+}
+
+TEST_F(OptionsTest, TurningTheHotkeyAndTheSignInStartOffStoresNoneAndRemovesTheRunValue) {
+    settings.Save("Main", "Hotkey", "Alt+Space");
+    signIn.TurnOn();
+    Open(0);
+    EXPECT_EQ(WindowText(Control(IDC_OPTIONS_HOTKEYINUSE)),
+              "Alt+Space is in use by another program. Choose another.");
+    EXPECT_TRUE(Ticked(IDC_OPTIONS_SIGNIN));
+
+    Tick(IDC_OPTIONS_USEHOTKEY);
+    EXPECT_FALSE(IsWindowEnabled(Control(IDC_OPTIONS_HOTKEY)));
+    EXPECT_EQ(WindowText(Control(IDC_OPTIONS_HOTKEYINUSE)), "") << "no hotkey, nothing held";
+    Tick(IDC_OPTIONS_SIGNIN);
+    Click(IDOK);
+    EXPECT_EQ(settings.Get("Main", "Hotkey", "-"), "");
+    EXPECT_EQ(hotkeys.applied, (std::vector<std::optional<Hotkey>>{std::nullopt}));
+    EXPECT_FALSE(signIn.IsOn());
+}
+
+TEST_F(OptionsTest, CancelStoresNeitherTheHotkeyNorTheSignInStart) {
+    Open(0);
+    EXPECT_FALSE(Ticked(IDC_OPTIONS_USEHOTKEY)) << "the fixture turns the hotkey off";
+    EXPECT_EQ(SendMessageW(Control(IDC_OPTIONS_HOTKEY), HKM_GETHOTKEY, 0, 0),
+              MAKEWORD(VK_SPACE, HOTKEYF_ALT))
+        << "the default offered";
+    Tick(IDC_OPTIONS_USEHOTKEY);
+    Tick(IDC_OPTIONS_SIGNIN);
+    Click(IDCANCEL);
+    EXPECT_EQ(settings.Get("Main", "Hotkey", "-"), "");
+    EXPECT_TRUE(hotkeys.applied.empty());
+    EXPECT_FALSE(signIn.IsOn());
 }
 
 }  // namespace

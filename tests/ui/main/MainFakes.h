@@ -68,6 +68,9 @@ class ProgramFixture : public ::testing::Test {
         settings.Save("Index", "Drive0", tree.Path());
         settings.Save("Index", "Filter", "");
         settings.Save("Index", "FilterIsInclude", "False");
+        // Test programs running side by side share one desktop's hotkeys; the tests of the
+        // hotkey choose combinations of their own.
+        settings.Save("Main", "Hotkey", "");
     }
 
     TempFolder program;

@@ -1,0 +1,171 @@
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/MemorySettingsStore.h"
+#include "ui/Dpi.h"
+#include "ui/WindowClass.h"
+#include "ui/main/GlobalHotkey.h"
+#include "ui/main/HotkeyText.h"
+#include "ui/main/HotkeyToggle.h"
+#include "ui/main/MainWindowFixture.h"
+#include "ui/main/TrayRecord.h"
+
+namespace quorin::test {
+namespace {
+
+// Combinations nobody else on the test desktop uses, one for each test that registers.
+constexpr Hotkey kShared{MOD_CONTROL | MOD_ALT | MOD_SHIFT, VK_F9};
+constexpr Hotkey kToggle{MOD_CONTROL | MOD_ALT | MOD_SHIFT, VK_F10};
+constexpr Hotkey kHeld{MOD_CONTROL | MOD_ALT | MOD_SHIFT, VK_F11};
+constexpr Hotkey kOther{MOD_CONTROL | MOD_ALT | MOD_SHIFT, VK_F8};
+
+TEST(HotkeyText, EveryKindOfKeyGoesToTextAndBack) {
+    const std::vector<std::pair<Hotkey, std::string>> cases = {
+        {{MOD_ALT, VK_SPACE}, "Alt+Space"},
+        {{MOD_CONTROL | MOD_ALT, 'Q'}, "Ctrl+Alt+Q"},
+        {{MOD_SHIFT | MOD_CONTROL, VK_F12}, "Ctrl+Shift+F12"},
+        {{MOD_ALT, '7'}, "Alt+7"},
+        {{MOD_ALT, VK_NUMPAD5}, "Alt+Num 5"},
+        {{MOD_CONTROL, VK_ADD}, "Ctrl+Num +"},
+        {{MOD_ALT | MOD_SHIFT, VK_OEM_3}, "Alt+Shift+`"},
+        {{MOD_CONTROL, VK_NEXT}, "Ctrl+PageDown"},
+        {{MOD_CONTROL, 0xE2}, "Ctrl+Key 226"},
+    };
+    for (const auto& [hotkey, text] : cases) {
+        EXPECT_EQ(FormatHotkey(hotkey), text);
+        EXPECT_EQ(ParseHotkey(text), hotkey) << text;
+    }
+}
+
+TEST(HotkeyText, ReadsAnyCaseAndBlanksButNothingElse) {
+    EXPECT_EQ(ParseHotkey(" alt + SPACE "), (Hotkey{MOD_ALT, VK_SPACE}));
+    EXPECT_EQ(ParseHotkey("shift+ctrl+f2"), (Hotkey{MOD_CONTROL | MOD_SHIFT, VK_F2}));
+    for (const char* bad : {"", "Space", "Shift+A", "Alt+", "Ctrl+Alt", "Alt+Alt+X", "Win+X",
+                            "Alt+Spacebar", "Alt+F25", "Alt+F0", "Alt+Num 10", "Alt+Key 0",
+                            "Alt+Key 999", "Alt+Key", "+", "Alt+Q+W", "Alt+\xC3\xA9"}) {
+        EXPECT_EQ(ParseHotkey(bad), std::nullopt) << bad;
+    }
+}
+
+TEST(HotkeyText, TheSettingDefaultsToAltSpaceAndAnEmptyValueTurnsItOff) {
+    MemorySettingsStore settings;
+    EXPECT_EQ(LoadHotkey(settings), (Hotkey{MOD_ALT, VK_SPACE})) << "absent";
+    settings.Save("Main", "Hotkey", "  ");
+    EXPECT_EQ(LoadHotkey(settings), std::nullopt);
+    settings.Save("Main", "Hotkey", "Ctrl+Alt+Q");
+    EXPECT_EQ(LoadHotkey(settings), (Hotkey{MOD_CONTROL | MOD_ALT, 'Q'}));
+    settings.Save("Main", "Hotkey", "Hyper+Q");
+    EXPECT_EQ(LoadHotkey(settings), (Hotkey{MOD_ALT, VK_SPACE})) << "unreadable: the default";
+    EXPECT_EQ(settings.Get("Main", "Hotkey", ""), "Hyper+Q") << "left for the user to change";
+
+    SaveHotkey(settings, Hotkey{MOD_CONTROL, VK_F5});
+    EXPECT_EQ(settings.Get("Main", "Hotkey", "-"), "Ctrl+F5");
+    SaveHotkey(settings, std::nullopt);
+    EXPECT_EQ(settings.Get("Main", "Hotkey", "-"), "");
+}
+
+TEST(HotkeyToggle, OnlyAWindowInFrontIsPutAway) {
+    EXPECT_EQ(DecideHotkey({.visible = true, .minimized = false, .foreground = true}),
+              HotkeyAction::Hide);
+    EXPECT_EQ(DecideHotkey({.visible = true, .minimized = false, .foreground = false}),
+              HotkeyAction::ShowGo)
+        << "behind another window: brought forward";
+    EXPECT_EQ(DecideHotkey({.visible = true, .minimized = true, .foreground = true}),
+              HotkeyAction::ShowGo);
+    EXPECT_EQ(DecideHotkey({}), HotkeyAction::ShowGo);
+    EXPECT_EQ(DecideHotkey({.indexing = true}), HotkeyAction::ShowAsItIs);
+    EXPECT_EQ(DecideHotkey({.visible = true, .foreground = true, .indexing = true}),
+              HotkeyAction::Hide);
+}
+
+// A plain window of this process that holds a combination, as another program would.
+class HotkeyOwner {
+  public:
+    HotkeyOwner() {
+        static const ATOM atom = RegisterWindowClass({.name = L"QuorinHotkeyOwner"});
+        static_cast<void>(atom);
+        window_.reset(CreateWindowExW(0, L"QuorinHotkeyOwner", L"", 0, 0, 0, 0, 0, nullptr, nullptr,
+                                      GetModuleHandleW(nullptr), nullptr));
+    }
+    HWND hwnd() const { return window_.get(); }
+
+  private:
+    UniqueWindow window_;
+};
+
+TEST(GlobalHotkey, ACombinationHeldElsewhereIsRememberedAsInUse) {
+    const HotkeyOwner first;
+    const HotkeyOwner second;
+    GlobalHotkey held;
+    GlobalHotkey wanting;
+    ASSERT_TRUE(held.Register(first.hwnd(), kShared));
+    EXPECT_FALSE(held.InUse());
+    EXPECT_TRUE(held.Free(first.hwnd(), kShared)) << "its own combination";
+
+    EXPECT_FALSE(wanting.Free(second.hwnd(), kShared));
+    EXPECT_FALSE(wanting.Register(second.hwnd(), kShared));
+    EXPECT_TRUE(wanting.InUse());
+    EXPECT_EQ(wanting.Wanted(), kShared);
+
+    held.Unregister();
+    EXPECT_TRUE(wanting.Free(second.hwnd(), kShared)) << "probing leaves nothing registered";
+    EXPECT_TRUE(wanting.Register(second.hwnd(), kShared));
+    EXPECT_TRUE(wanting.Register(second.hwnd(), std::nullopt)) << "none is never in use";
+    EXPECT_FALSE(wanting.InUse());
+    EXPECT_TRUE(held.Register(first.hwnd(), kShared)) << "released with none";
+}
+
+TEST_F(MainWindowTest, TheHotkeyShowsTheWordBoxReadyAndPutsTheWindowAwayAgain) {
+    settings.Save("Main", "Hotkey", FormatHotkey(kToggle));
+    settings.Save("Main", "StartX", "2400");
+    Load();
+    EXPECT_EQ(TrayTip(tray.Record()), "Quorin");
+    ClickTab(kHelpPanel);
+    SetWord("notes");
+
+    SendMessageW(Window(), WM_HOTKEY, GlobalHotkey::kId, 0);
+    ASSERT_TRUE(IsWindowVisible(Window()));
+    RECT frame{};
+    GetWindowRect(Window(), &frame);
+    EXPECT_EQ(frame.left, TwipsToPixels(2400, WindowDpi(Window())));
+    EXPECT_EQ(form->CurrentTab(), kGoPanel);
+    EXPECT_EQ(PanelsShown(), (std::vector<bool>{true, false, false, false, false, false}));
+    const HWND word = Control(kIdWord);
+    EXPECT_TRUE(IsChild(word, GetFocus()));
+    const LRESULT selection = SendMessageW(word, CB_GETEDITSEL, 0, 0);
+    EXPECT_EQ(LOWORD(selection), 0);
+    EXPECT_EQ(HIWORD(selection), 5) << "the whole word, ready to be typed over";
+
+    ASSERT_EQ(GetForegroundWindow(), Window());
+    SendMessageW(Window(), WM_HOTKEY, GlobalHotkey::kId, 0);
+    EXPECT_FALSE(IsWindowVisible(Window()));
+    SendMessageW(Window(), WM_HOTKEY, GlobalHotkey::kId + 1, 0);
+    EXPECT_FALSE(IsWindowVisible(Window())) << "not our hotkey";
+}
+
+TEST_F(MainWindowTest, AHotkeyHeldElsewhereIsToldInTheTrayTipUntilItIsChanged) {
+    const HotkeyOwner other;
+    ASSERT_NE(RegisterHotKey(other.hwnd(), 7, kHeld.modifiers, kHeld.key), FALSE);
+    settings.Save("Main", "Hotkey", FormatHotkey(kHeld));
+    Load();
+    EXPECT_EQ(TrayTip(tray.Record()), "Quorin: Ctrl+Alt+Shift+F11 is in use by another program");
+    EXPECT_FALSE(form->HotkeyFree(kHeld));
+    EXPECT_TRUE(form->HotkeyFree(kOther));
+
+    EXPECT_TRUE(form->ApplyHotkey(kOther));
+    EXPECT_EQ(TrayTip(tray.Record()), "Quorin");
+    EXPECT_TRUE(form->HotkeyFree(kOther)) << "its own";
+    EXPECT_FALSE(form->ApplyHotkey(kHeld));
+    EXPECT_EQ(TrayTip(tray.Record()), "Quorin: Ctrl+Alt+Shift+F11 is in use by another program");
+    EXPECT_TRUE(form->ApplyHotkey(std::nullopt));
+    EXPECT_EQ(TrayTip(tray.Record()), "Quorin");
+    UnregisterHotKey(other.hwnd(), 7);
+}
+
+}  // namespace
+}  // namespace quorin::test
