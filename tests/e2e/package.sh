@@ -95,21 +95,11 @@ wait_for_index
 
 main_shown() { window_shown '^Quorin$'; }
 main_hidden() { ! main_shown; }
-# True when the state comes within $1 seconds; unlike wait_until, not a failure otherwise.
-comes_within() {
-    local seconds=$1
-    shift
-    for _ in $(seq "$((seconds * 4))"); do
-        "$@" && return 0
-        sleep 0.25
-    done
-    return 1
-}
 wait_until 30 "the wizard stayed after the first build" bash -c "! xdotool search --onlyvisible --name '^Welcome to Quorin\$' >/dev/null"
 # From the tray, a press brings up the main window and the next one puts it away.
 for _ in 1 2 3; do
     xdotool key alt+space
-    comes_within 5 main_shown && break
+    poll 5 main_shown && break
 done
 main_shown || fail "Alt+Space did not bring up the main window"
 xdotool key alt+space
