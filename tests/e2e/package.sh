@@ -133,7 +133,7 @@ wait_until 30 "the start at sign-in made no window" quorin_window
 # The window is made before the hotkey is taken: a press that comes too early is pressed again.
 for _ in 1 2 3 4 5; do
     xdotool key alt+space
-    comes_within 4 main_shown && break
+    poll 4 main_shown && break
 done
 main_shown || fail "Alt+Space did not bring up the program started at sign-in"
 exit_program
