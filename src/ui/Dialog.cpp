@@ -16,7 +16,8 @@ INT_PTR Dialog::ShowModal(HWND owner) {
         EnableWindow(owner, FALSE);
     }
     ShowWindow(hwnd(), SW_SHOW);
-    MessagePump::RunUntil([this] { return ended_; });
+    // A dialog destroyed without EndDialog (its owner went) ends the loop too.
+    MessagePump::RunUntil([this] { return ended_ || hwnd() == nullptr; });
     // The owner is enabled before the dialog goes, so that the system activates it again.
     if (disableOwner) {
         EnableWindow(owner, TRUE);

@@ -274,8 +274,9 @@ TEST_F(OptionsTest, WordsAreRemovedAfterAskingAndAddedThroughTheirDialog) {
     EXPECT_EQ(ReadWholeFile(JoinPath(program.Path(), "words.txt")), "") << "saved at once";
 
     WhenLoopRuns([&] {
-        const HWND newWord = GetActiveWindow();
-        EXPECT_EQ(WindowText(newWord), "Add New Word");
+        // Found by its title: under load the system may not have made it active yet.
+        const HWND newWord = FindWindowW(L"#32770", L"Add New Word");
+        ASSERT_NE(newWord, nullptr);
         EXPECT_FALSE(IsWindowEnabled(dialog.hwnd())) << "modal over the Options dialog";
         SendMessageW(newWord, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
     });
