@@ -14,6 +14,7 @@
 #include "ui/Hourglass.h"
 #include "ui/ListViewColumn.h"
 #include "ui/PaintDc.h"
+#include "ui/ProgramIcon.h"
 #include "ui/WindowText.h"
 #include "ui/dialogs/FileTypeLists.h"
 #include "ui/dialogs/KnownExtensions.h"
@@ -75,9 +76,7 @@ void frmWelcome::Form_Load() {
     Animation1 = Item(IDC_WELCOME_ANIMATION);
     lblCounter = Item(IDC_WELCOME_COUNTER);
 
-    const int size = GetSystemMetrics(SM_CXSMICON);
-    icon_.reset(static_cast<HICON>(LoadImageW(
-        GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_QUORIN), IMAGE_ICON, size, size, 0)));
+    icon_ = SmallProgramIcon(IDI_QUORIN);
     SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.get()));
     SendMessageW(hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon_.get()));
 

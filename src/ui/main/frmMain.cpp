@@ -10,6 +10,7 @@
 #include "ui/Hourglass.h"
 #include "ui/MessagePump.h"
 #include "ui/PaintDc.h"
+#include "ui/ProgramIcon.h"
 #include "ui/WindowClass.h"
 #include "ui/WindowText.h"
 #include "ui/main/GoCommand.h"
@@ -51,8 +52,8 @@ frmMain::~frmMain() {
 }
 
 void frmMain::Form_Load() {
-    icon_.reset(Icon(IDI_QUORIN));
-    indexingIcon_.reset(Icon(IDI_INDEXING));
+    icon_ = SmallProgramIcon(IDI_QUORIN);
+    indexingIcon_ = SmallProgramIcon(IDI_INDEXING);
     SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.get()));
     SendMessageW(hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon_.get()));
     services_.help.Setup(hwnd());
@@ -65,12 +66,6 @@ void frmMain::Form_Load() {
     MessagePump().DoEvents();
     hotkey_.Register(hwnd(), LoadHotkey(services_.settings));
     services_.tray.CreateIcon(hwnd(), icon_.get(), Tip());
-}
-
-HICON frmMain::Icon(int resourceId) const {
-    const int size = GetSystemMetrics(SM_CXSMICON);
-    return static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(resourceId),
-                                         IMAGE_ICON, size, size, 0));
 }
 
 void frmMain::CreateControls() {

@@ -167,7 +167,6 @@ class frmMain final : public Window,
     void StorePosition();
     void SelectPanel(int panel);
     void UpdateIndexPanel();
-    HICON Icon(int resourceId) const;
     bool Indexing() const;
     std::string Tip() const;
 
