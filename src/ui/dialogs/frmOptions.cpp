@@ -10,6 +10,7 @@
 #include "platform/SettingsStore.h"
 #include "platform/registry/SignInStart.h"
 #include "ui/FocusColors.h"
+#include "ui/TabKeys.h"
 #include "ui/dialogs/DialogTexts.h"
 #include "ui/help/Help.h"
 
@@ -23,10 +24,6 @@ constexpr std::array<int, kOptionsPageCount> kPageTemplates = {
     IDD_OPTIONS_GENERAL, IDD_OPTIONS_FILETYPES, IDD_OPTIONS_WORDS};
 constexpr std::array<int32_t, kOptionsPageCount> kPageHelp = {
     kHelpGeneralOptions, kHelpFileTypeOptions, kHelpWordOptions};
-
-bool Pressed(int key) {
-    return (GetKeyState(key) & 0x8000) != 0;
-}
 
 }  // namespace
 
@@ -132,11 +129,11 @@ HBRUSH frmOptions::OnControlColor(HWND control, HDC dc) {
 
 // Ctrl+Tab and Ctrl+Shift+Tab change pages, as in every tabbed dialog.
 bool frmOptions::OnKey(const MSG& message) {
-    if (message.message != WM_KEYDOWN || message.wParam != VK_TAB || !Pressed(VK_CONTROL)) {
+    const std::optional<int> next = PageAfterCtrlTab(message, currentPage_, kOptionsPageCount);
+    if (!next) {
         return false;
     }
-    const int step = Pressed(VK_SHIFT) ? kOptionsPageCount - 1 : 1;
-    Panel((currentPage_ + step) % kOptionsPageCount);
+    Panel(*next);
     SetFocus(TabStrip1);
     return true;
 }

@@ -15,6 +15,7 @@
 #include "ui/ListViewColumn.h"
 #include "ui/PaintDc.h"
 #include "ui/ProgramIcon.h"
+#include "ui/TabKeys.h"
 #include "ui/WindowText.h"
 #include "ui/dialogs/FileTypeLists.h"
 #include "ui/dialogs/KnownExtensions.h"
@@ -134,12 +135,11 @@ LRESULT frmWelcome::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 bool frmWelcome::OnKey(const MSG& message) {
-    const bool ctrlTab = message.wParam == VK_TAB && GetKeyState(VK_CONTROL) < 0;
-    if (!ctrlTab || !tabLabel[0].Enabled()) {
+    const std::optional<int> next = PageAfterCtrlTab(message, page_, kWelcomePageCount);
+    if (!next || !tabLabel[0].Enabled()) {
         return false;
     }
-    const int step = GetKeyState(VK_SHIFT) < 0 ? kWelcomePageCount - 1 : 1;
-    tabLabel_Click((page_ + step) % kWelcomePageCount);
+    tabLabel_Click(*next);
     return true;
 }
 

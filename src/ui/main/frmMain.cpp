@@ -11,6 +11,7 @@
 #include "ui/MessagePump.h"
 #include "ui/PaintDc.h"
 #include "ui/ProgramIcon.h"
+#include "ui/TabKeys.h"
 #include "ui/WindowClass.h"
 #include "ui/WindowText.h"
 #include "ui/main/GoCommand.h"
@@ -304,14 +305,15 @@ void frmMain::cboWord_Command(int code) {
 // Ctrl+Tab and Ctrl+Shift+Tab go round the tabs as in a tabbed dialog; never to Exit, which
 // would end the program on a key meant to look around.
 bool frmMain::OnKey(const MSG& message) {
-    if (message.message != WM_KEYDOWN || message.wParam != VK_TAB || GetKeyState(VK_CONTROL) >= 0 ||
-        !tabLabel[currentTab_].Enabled()) {
+    std::optional<int> next = PageAfterCtrlTab(message, currentTab_, kExitPanel);
+    if (!next || !tabLabel[currentTab_].Enabled()) {
         return false;
     }
-    const int step = GetKeyState(VK_SHIFT) < 0 ? kExitPanel - 1 : 1;
-    const int next = currentTab_ == kExitPanel ? kGoPanel : (currentTab_ + step) % kExitPanel;
-    tabLabel[next].SetSelected(true);
-    tabLabel_Click(next);
+    if (currentTab_ == kExitPanel) {
+        next = kGoPanel;
+    }
+    tabLabel[*next].SetSelected(true);
+    tabLabel_Click(*next);
     return true;
 }
 
