@@ -49,7 +49,12 @@ open_options() {  # LINK_Y
         poll 10 options_shown && break
     done
     options_shown || fail "the Options link at $1 opened no dialog"
-    wait_until 10 "the Options dialog did not take the focus" has_focus '^Options$'
+    # Under load Wine can show the dialog without making it active: give it the focus then.
+    for _ in 1 2 3; do
+        poll 5 has_focus '^Options$' && return 0
+        xdotool windowfocus "$(xdotool search --onlyvisible --name '^Options$' | head -1)" 2>/dev/null || true
+    done
+    fail "the Options dialog did not take the focus"
 }
 
 start_program
