@@ -2,6 +2,8 @@
 
 #include <windowsx.h>
 
+#include <vector>
+
 #include "platform/Text.h"
 #include "platform/WinHandles.h"
 #include "ui/Dpi.h"
@@ -12,8 +14,32 @@ namespace quorin {
 
 namespace {
 
-// One line, "&" shown as it is.
-constexpr UINT kLineFormat = DT_SINGLELINE | DT_NOPREFIX;
+// A caption as one line of glyphs ("&" shown as it is) and where each glyph goes.
+struct CaptionRun {
+    std::wstring text;
+    std::vector<int> advances;
+    SIZE size{};
+};
+
+// The caption is drawn at the advances it was measured with, so its size, its glyphs and its
+// underline always agree: Wine's stand-in for Tahoma measures wider than it places the glyphs
+// of a plain text out, which left the underline running past the caption.
+CaptionRun LayOutCaption(HDC dc, std::string_view caption) {
+    CaptionRun run{Widen(caption), {}, {}};
+    const int length = static_cast<int>(run.text.size());
+    std::vector<int> ends(run.text.size());
+    int fitting = 0;
+    GetTextExtentExPointW(dc, run.text.c_str(), length, 0, &fitting, ends.data(), &run.size);
+    int previous = 0;
+    for (const int end : ends) {
+        run.advances.push_back(end - previous);
+        previous = end;
+    }
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(dc, &metrics);
+    run.size.cy = metrics.tmHeight;
+    return run;
+}
 
 LOGFONTW FontDescription(HFONT font, HWND window) {
     LOGFONTW description{};
@@ -51,11 +77,7 @@ HWND LabelWindow::CreateLabel(ATOM atom, HWND parent, int id, std::string_view c
 SIZE LabelWindow::MeasureText(std::string_view text, bool bold) {
     const WindowDC dc(hwnd());
     const SelectedObject font(dc.get(), fonts_.Get(bold, false));
-    const std::wstring wide = Widen(text);
-    RECT box{};
-    DrawTextW(dc.get(), wide.c_str(), static_cast<int>(wide.size()), &box,
-              kLineFormat | DT_CALCRECT);
-    return {box.right - box.left, box.bottom - box.top};
+    return LayOutCaption(dc.get(), text).size;
 }
 
 void LabelWindow::ResizeTo(SIZE size) {
@@ -217,9 +239,9 @@ void LabelWindow::Paint(HDC dc) {
     const SelectedObject font(dc, fonts_.Get(look.bold, model_.Underlined()));
     SetTextColor(dc, ResolveColor(Enabled() ? look.text : look.disabledText));
     SetBkMode(dc, TRANSPARENT);
-    const std::wstring text = Widen(Caption());
-    DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &area,
-              kLineFormat | DT_CENTER | DT_VCENTER);
+    const CaptionRun run = LayOutCaption(dc, Caption());
+    ExtTextOutW(dc, (area.right - run.size.cx) / 2, (area.bottom - run.size.cy) / 2, 0, nullptr,
+                run.text.c_str(), static_cast<UINT>(run.text.size()), run.advances.data());
     if (GetFocus() == hwnd()) {
         DrawFocusRect(dc, &area);
     }

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <vector>
+
 #include "TestWindows.h"
 #include "ui/controls/ctlLinkLabel.h"
 
@@ -106,6 +109,31 @@ TEST_F(LinkLabelTest, TheFocusedLinkShowsAFocusRectangleAndEnterOrSpaceClicksIt)
     link.SetEnabled(true);
     SetFocus(nullptr);
     EXPECT_EQ(test::Ink(link.hwnd()), plainInk);
+}
+
+// The rightmost column where `after` differs from `before`.
+int RightmostChange(const std::vector<COLORREF>& before, const std::vector<COLORREF>& after,
+                    int width) {
+    int right = -1;
+    for (size_t i = 0; i < after.size(); ++i) {
+        if (after[i] != before[i]) {
+            right = std::max(right, static_cast<int>(i % width));
+        }
+    }
+    return right;
+}
+
+TEST_F(LinkLabelTest, TheUnderlineEndsWhereTheCaptionEnds) {
+    link.SetCaption("Change file types that are indexed");
+    const int width = ClientSize(link.hwnd()).cx;
+    const std::vector<COLORREF> plain = test::Render(link.hwnd());
+    const std::vector<COLORREF> background(plain.size(), plain[0]);
+    Move(2, 2);
+    const std::vector<COLORREF> underlined = test::Render(link.hwnd());
+
+    const int captionRight = RightmostChange(background, plain, width);
+    ASSERT_GT(captionRight, width / 2);
+    EXPECT_LE(RightmostChange(plain, underlined, width), captionRight + 2);
 }
 
 TEST_F(LinkLabelTest, SizeFollowsTheCaptionAtOnce) {
