@@ -72,10 +72,8 @@ class DemoWindow final : public Window {
     }
 
     void Form_Load() {
-        // The form hands its font to its controls. Wine's own Tahoma, the message font there,
-        // reports wider text than it draws; this face measures true on Wine and on Windows.
-        LOGFONTW description = MessageFont(WindowDpi(hwnd()));
-        wcscpy(description.lfFaceName, L"MS Sans Serif");
+        // The form hands its font to its controls.
+        const LOGFONTW description = MessageFont(WindowDpi(hwnd()));
         font_.reset(CreateFontIndirectW(&description));
 
         int left = 0;
