@@ -9,6 +9,7 @@ add_library(quorin_ui_base STATIC
     ${CMAKE_CURRENT_LIST_DIR}/PacedProgress.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ProgramIcon.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TabKeys.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TextFlow.cpp
     ${CMAKE_CURRENT_LIST_DIR}/Window.cpp
     ${CMAKE_CURRENT_LIST_DIR}/WindowClass.cpp
     ${CMAKE_CURRENT_LIST_DIR}/WindowErrors.cpp

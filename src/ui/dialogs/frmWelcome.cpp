@@ -16,6 +16,7 @@
 #include "ui/PaintDc.h"
 #include "ui/ProgramIcon.h"
 #include "ui/TabKeys.h"
+#include "ui/TextFlow.h"
 #include "ui/WindowText.h"
 #include "ui/dialogs/FileTypeLists.h"
 #include "ui/dialogs/KnownExtensions.h"
@@ -82,6 +83,7 @@ void frmWelcome::Form_Load() {
     SendMessageW(hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon_.get()));
 
     SetText(Item(IDC_WELCOME_WELCOME), WelcomeText());
+    PlaceAfterText(Item(IDC_WELCOME_DRIVES_TEXT), Item(IDC_WELCOME_DRIVES));
     CreateTabs();
     PrepareFileTypesList();
     for (int block = 1; block <= kProgressBlock; ++block) {
@@ -129,7 +131,9 @@ LRESULT frmWelcome::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     const LRESULT result = Dialog::HandleMessage(message, wParam, lParam);
     if (message == WM_DPICHANGED) {
-        tabLabel.PlaceInRow(0, 0);  // the new font has resized them
+        // The new font has resized the tabs and rewrapped the text the link follows.
+        tabLabel.PlaceInRow(0, 0);
+        PlaceAfterText(Item(IDC_WELCOME_DRIVES_TEXT), Item(IDC_WELCOME_DRIVES));
     }
     return result;
 }

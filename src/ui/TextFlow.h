@@ -1,0 +1,12 @@
+#pragma once
+
+#include <windows.h>
+
+namespace quorin {
+
+// Puts `follower` where the text of the word-wrapped static `label` ends, one blank on, so that
+// a link reads as the end of the label's sentence; on the next line when the rest of the last
+// line is too short for it. Both are children of the same window.
+void PlaceAfterText(HWND label, HWND follower);
+
+}  // namespace quorin
