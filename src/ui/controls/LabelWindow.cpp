@@ -28,8 +28,7 @@ CaptionRun LayOutCaption(HDC dc, std::string_view caption) {
     CaptionRun run{Widen(caption), {}, {}};
     const int length = static_cast<int>(run.text.size());
     std::vector<int> ends(run.text.size());
-    int fitting = 0;
-    GetTextExtentExPointW(dc, run.text.c_str(), length, 0, &fitting, ends.data(), &run.size);
+    GetTextExtentExPointW(dc, run.text.c_str(), length, 0, nullptr, ends.data(), &run.size);
     int previous = 0;
     for (const int end : ends) {
         run.advances.push_back(end - previous);
