@@ -35,6 +35,8 @@ class MatchRows {
 
     std::string Filename(int row) const;
     const std::string& Folder(int row) const;
+    // The folder the match at `position` showed when the rows were filled.
+    const std::string& FolderAt(int32_t position) const { return FolderOf(position).path; }
     std::wstring Text(int row, int column) const;
 
     // A stable sort of the rows by the column's text, compared as lstrcmpiW compares: without

@@ -410,6 +410,8 @@ void frmMatches::OpenRow(int row) {
     if (Button_GetCheck(chkAssociate) == BST_CHECKED) {
         clsItem item = matches_->Item(row + 1);
         item.Word = word_;
+        // A build since the rows were filled has numbered the folders anew.
+        item.Directory = host_->index.GetDirectory(rows_.FolderAt(row + 1)).value_or(0);
         host_->index.AddWord(item);
         if (host_->AddWords) {
             host_->AddWords();

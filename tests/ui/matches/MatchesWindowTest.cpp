@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/SilentProgressWindow.h"
 #include "index/clsIndex.h"
 #include "platform/Clock.h"
 #include "platform/MemorySettingsStore.h"
@@ -222,6 +223,28 @@ TEST_F(MatchesWindowTest, AssociationGoesToTheRowsPositionWhileTheRowsOwnFileOpe
     EXPECT_EQ(index_->GetPath(assigned->Directory), "C:\\Music");
     EXPECT_EQ(wordListRefreshes_, 1);
     EXPECT_FALSE(IsWindow(form));
+}
+
+TEST_F(MatchesWindowTest, AWordAssignedAfterARebuildGoesToTheFolderItsRowShowed) {
+    const HWND form = Load();
+    // The rebuild makes C:\Music, folder 2 when the list was filled, folder 1.
+    const TempFolder drive;
+    drive.MakeFolder("Sub");
+    settings_.Save("Index", "DriveCount", "2");
+    settings_.Save("Index", "Drive0", drive.Path());
+    settings_.Save("Index", "Drive1", "C:\\Music");
+    index_->UpdateSettings();
+    SilentProgressWindow progress;
+    index_->CreateIndex(true, progress);
+    ASSERT_EQ(index_->GetDirectory("C:\\Music"), 1);
+
+    SelectRow(List(form), 2);  // Plans.exe in C:\Music
+    Button_SetCheck(GetDlgItem(form, kMatchesAssociateId), BST_CHECKED);
+    ClickButton(form, kMatchesOpenId);
+
+    const clsItem* assigned = index_->Words().Item("PLAN");
+    ASSERT_NE(assigned, nullptr);
+    EXPECT_EQ(index_->GetPath(assigned->Directory), "C:\\Music");
 }
 
 TEST_F(MatchesWindowTest, EnterInTheListOpensAsADoubleClickDoes) {
