@@ -51,15 +51,18 @@ PromptAnswer AnswerOf(int result) {
 
 // A tray program asks while none of its windows may be in front (at start-up, or from the tray),
 // so the box takes the foreground itself rather than waiting grey behind other programs. It
-// belongs to the program's active window (a dialog asking), else to the main window; an owner
-// that has gone (a start-up that failed after the main window was made) would make the box fail.
-// Without any owner (the first-run wizard at start-up) it holds back every window of the
-// program until answered.
+// belongs to the program's active window (a dialog asking), else to the main window while that
+// is shown. A hidden owner (the main window in the tray or not yet shown) would leave the box
+// without a taskbar button, and drawn inactive under Wine; an owner that has gone would make it
+// fail. Without an owner the box holds back every window of the program until answered.
 PromptAnswer MessageBoxPrompter::Ask(std::string_view title, std::string_view text,
                                      PromptButtons buttons, PromptIcon icon) {
     HWND owner = GetActiveWindow();
-    if (owner == nullptr && IsWindow(owner_)) {
+    if (owner == nullptr) {
         owner = owner_;
+    }
+    if (IsWindowVisible(owner) == FALSE) {
+        owner = nullptr;
     }
     const UINT modality = owner == nullptr ? MB_TASKMODAL : 0;
     return AnswerOf(MessageBoxW(owner, Widen(text).c_str(), Widen(title).c_str(),
