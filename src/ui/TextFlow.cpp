@@ -4,6 +4,7 @@
 
 #include "platform/Text.h"
 #include "platform/WinHandles.h"
+#include "ui/Window.h"
 #include "ui/WindowText.h"
 
 namespace quorin {
@@ -25,18 +26,11 @@ int TextWidth(HDC dc, std::wstring_view text) {
     return size.cx;
 }
 
-RECT RectInParent(HWND window) {
-    RECT rect{};
-    GetWindowRect(window, &rect);
-    MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
-}
-
 }  // namespace
 
 void PlaceAfterText(HWND label, HWND follower) {
     const std::wstring text = Widen(WindowText(label));
-    const RECT area = RectInParent(label);
+    const RECT area = Window::RectInParent(label);
     const int width = area.right - area.left;
     const WindowDC dc(label);
     const SelectedObject font(dc.get(),

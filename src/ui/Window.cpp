@@ -42,6 +42,13 @@ bool Window::TranslateKeys(HWND active, const MSG& message) {
     return ours && FromHandle(active) != nullptr && FromHandle(active)->OnKey(message);
 }
 
+RECT Window::RectInParent(HWND child) {
+    RECT rect{};
+    GetWindowRect(child, &rect);
+    MapWindowPoints(nullptr, GetParent(child), reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
 HWND Window::CreateControl(HWND parent, const wchar_t* className, std::string_view text,
                            DWORD style, int id, DWORD exStyle) {
     return CreateHandle(className,

@@ -69,6 +69,9 @@ class Window {
     static HWND CreateControl(HWND parent, const wchar_t* className, std::string_view text,
                               DWORD style, int id, DWORD exStyle = 0);
 
+    // A child window's place and size in its parent's client area.
+    static RECT RectInParent(HWND child);
+
   protected:
     Window() = default;
 

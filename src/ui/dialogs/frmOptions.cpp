@@ -58,9 +58,7 @@ bool frmOptions::OnInit() {
 
 // The pages lie in the tab control's display area, right after it in the tab order.
 void frmOptions::LayOutPages() {
-    RECT area{};
-    GetWindowRect(TabStrip1, &area);
-    MapWindowPoints(nullptr, hwnd(), reinterpret_cast<POINT*>(&area), 2);
+    RECT area = RectInParent(TabStrip1);
     SendMessageW(TabStrip1, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&area));
     HWND previous = TabStrip1;
     for (int i = 0; i < kOptionsPageCount; ++i) {

@@ -31,13 +31,6 @@ class TextFlowTest : public ::testing::Test {
         MoveWindow(control, x, y, width, height, FALSE);
     }
 
-    static RECT InParent(HWND control) {
-        RECT rect{};
-        GetWindowRect(control, &rect);
-        MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&rect), 2);
-        return rect;
-    }
-
     int TextWidth(const std::string& text) const {
         const WindowDC dc(parent.hwnd());
         const SelectedObject selected(dc.get(), font.get());
@@ -67,23 +60,23 @@ TEST_F(TextFlowTest, FollowsTheLastWordOfTheTextOnItsLine) {
     const HWND follower = Follower(30);
     PlaceAfterText(label, follower);
 
-    const RECT placed = InParent(follower);
+    const RECT placed = Window::RectInParent(follower);
     EXPECT_EQ(placed.top, 20 + lineHeight);  // the second line
     EXPECT_GE(placed.left, 10 + TextWidth(last));
     EXPECT_LE(placed.left, 10 + TextWidth(last + "  "));
 
     const HWND oneLine = Label("Short text,", 300);
     PlaceAfterText(oneLine, follower);
-    EXPECT_EQ(InParent(follower).top, 20);
-    EXPECT_GE(InParent(follower).left, 10 + TextWidth("Short text,"));
+    EXPECT_EQ(Window::RectInParent(follower).top, 20);
+    EXPECT_GE(Window::RectInParent(follower).left, 10 + TextWidth("Short text,"));
 }
 
 TEST_F(TextFlowTest, StartsTheNextLineWhenTheLastLineHasNoRoomLeft) {
     const HWND label = Label("Short text,", 300);
     const HWND follower = Follower(295);
     PlaceAfterText(label, follower);
-    EXPECT_EQ(InParent(follower).left, 10);
-    EXPECT_EQ(InParent(follower).top, 20 + lineHeight);
+    EXPECT_EQ(Window::RectInParent(follower).left, 10);
+    EXPECT_EQ(Window::RectInParent(follower).top, 20 + lineHeight);
 }
 
 }  // namespace

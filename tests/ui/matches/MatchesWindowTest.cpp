@@ -88,10 +88,7 @@ TwipsSize OuterTwips(HWND window) {
 }
 
 RECT ControlRect(HWND form, int id) {
-    RECT control{};
-    GetWindowRect(GetDlgItem(form, id), &control);
-    MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&control), 2);
-    return control;
+    return Window::RectInParent(GetDlgItem(form, id));
 }
 
 // The height the control's text takes, wrapped at the control's width, in its own font.
