@@ -36,13 +36,9 @@ class BoxWatch {
     static inline BoxWatch* watch_ = nullptr;
 };
 
-HWND TopLevelWindow(DWORD style) {
-    return CreateWindowExW(0, L"STATIC", L"Owner", WS_OVERLAPPED | style, 0, 0, 200, 100, nullptr,
-                           nullptr, nullptr, nullptr);
-}
-
 TEST(MessageBoxPrompterTest, TheBoxBelongsToTheMainWindowOnlyWhileItIsShown) {
-    const HWND main = TopLevelWindow(0);
+    const HWND main = CreateWindowExW(0, L"STATIC", L"Owner", WS_OVERLAPPED, 0, 0, 200, 100,
+                                      nullptr, nullptr, nullptr, nullptr);
     MessageBoxPrompter prompter(main);
     {
         BoxWatch hidden;
