@@ -85,6 +85,16 @@ set_setting() { wine reg add "HKCU\\Software\\Quorin\\$1" /v "$2" /d "$3" /f >/d
 # A Linux path as Wine's Z: drive sees it.
 windows_path() { echo "Z:${1//\//\\}"; }
 
+# Files "opened" by the program leave their path in the marker file: the classes root gets a type
+# whose open command writes it there (under this Wine, user classes are not merged into it).
+marker=$work/marker.txt
+register_marking_type() {  # EXTENSION CLASS
+    wine reg add "HKCR\\$1" /ve /d "$2" /f >/dev/null
+    wine reg add "HKCR\\$2\\shell\\open\\command" /ve \
+        /d "cmd /c echo %1> $(windows_path "$marker")" /f >/dev/null
+}
+opened() { [ -s "$marker" ] && grep -qF "$1" "$marker"; }
+
 # Starts quorin.exe on a Wine desktop filling the display; sets `desktop` to its process.
 start_program() {
     wine explorer /desktop=quorin,1280x800 "$(windows_path "$program")\\quorin.exe" &

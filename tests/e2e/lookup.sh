@@ -15,7 +15,6 @@ shots=${3:-$work/screenshots}
 prepare_program
 
 tree=$work/tree
-marker=$work/marker.txt
 rm -rf "$tree" "$marker"
 mkdir -p "$tree/papers"
 touch "$tree/papers/alpha report.qzo" "$tree/papers/alpha notes.qzo" \
@@ -30,10 +29,7 @@ set_setting Index FilterIsInclude True
 for place in Left:1500 Top:1500 Width:7200 Height:4800; do
     set_setting Matches "${place%:*}" "${place#*:}"
 done
-# Under this Wine, user classes are not merged into the classes root; the type goes there.
-wine reg add 'HKCR\.qzo' /ve /d QuorinLookupTest /f >/dev/null
-wine reg add 'HKCR\QuorinLookupTest\shell\open\command' /ve \
-    /d "cmd /c echo %1> $(windows_path "$marker")" /f >/dev/null
+register_marking_type .qzo QuorinLookupTest
 wine reg add 'HKCR\QuorinLookupTest\DefaultIcon' /ve /d '%SystemRoot%\system32\notepad.exe,0' \
     /f >/dev/null
 wineserver -w
@@ -43,7 +39,6 @@ go() {
     type_word "$1"
     xdotool key Return
 }
-opened() { [ -s "$marker" ] && grep -qF "$1" "$marker"; }
 matches_shown() { window_shown '^Multiple Matches$'; }
 matches_gone() { ! matches_shown; }
 main_hidden() { ! window_shown '^Quorin$'; }

@@ -14,7 +14,6 @@ shots=${3:-$work/screenshots}
 prepare_program
 
 tree=$work/tree
-marker=$work/marker.txt
 rm -rf "$tree" "$marker"
 mkdir -p "$tree"
 touch "$tree/report.qzp" "$tree/notes.txt"
@@ -27,9 +26,7 @@ set_setting Index DriveCount 1
 set_setting Index Drive0 'q:'
 set_setting Index Filter ''
 set_setting Index FilterIsInclude True
-wine reg add 'HKCR\.qzp' /ve /d QuorinOptionsTest /f >/dev/null
-wine reg add 'HKCR\QuorinOptionsTest\shell\open\command' /ve \
-    /d "cmd /c echo %1> $(windows_path "$marker")" /f >/dev/null
+register_marking_type .qzp QuorinOptionsTest
 wineserver -w
 
 setting() {  # NAME: the value of section Index as the registry holds it
@@ -37,7 +34,6 @@ setting() {  # NAME: the value of section Index as the registry holds it
         sed -n "s/^    $1    REG_SZ    //p"
 }
 words() { tr -d '\r' <"$program/words.txt" 2>/dev/null || true; }
-opened() { [ -s "$marker" ] && grep -qF "$1" "$marker"; }
 options_shown() { window_shown '^Options$'; }
 options_gone() { ! options_shown; }
 new_word_shown() { window_shown '^Add New Word$'; }
