@@ -24,13 +24,21 @@ std::string SettingName(std::string_view key) {
                             value + "\".");
 }
 
-int32_t ReadNumber(const SettingsStore& store, std::string_view key, std::string_view fallback) {
-    const std::string value = store.Get(kSection, key, fallback);
-    const std::optional<int32_t> number = ParseWholeNumber(value);
+// A number as a numeric conversion reads it: the nearest whole number, halves to even. `range`
+// names the range in the overflow message ("the interval's range"), `unit` follows its bounds.
+int32_t ConvertNumber(std::string_view key, const std::string& value, std::string_view range,
+                      std::string_view unit) {
+    const std::optional<double> number = ParseDecimalNumber(value);
     if (!number) {
-        ThrowMismatch(key, "a whole number", value);
+        ThrowMismatch(key, "a number", value);
     }
-    return *number;
+    const std::optional<int32_t> whole = RoundToWholeNumber(*number);
+    if (!whole) {
+        throw OverflowError(SettingName(key) + " holds \"" + value + "\", which is outside " +
+                            std::string(range) + " of " + std::to_string(INT32_MIN) + " to " +
+                            std::to_string(INT32_MAX) + std::string(unit) + ".");
+    }
+    return *whole;
 }
 
 bool ReadBoolean(const SettingsStore& store, std::string_view key) {
@@ -43,7 +51,8 @@ bool ReadBoolean(const SettingsStore& store, std::string_view key) {
 }
 
 void ReadDrives(const SettingsStore& store, DriveTable& drives) {
-    const int32_t count = ReadNumber(store, "DriveCount", "0");
+    const int32_t count =
+        ConvertNumber("DriveCount", store.Get(kSection, "DriveCount", "0"), "the range", "");
     drives.slots.fill(std::string());
     if (count <= 0) {
         drives.slots[0] = DefaultRoot();
@@ -66,18 +75,7 @@ void ReadDrives(const SettingsStore& store, DriveTable& drives) {
 }  // namespace
 
 int32_t ConvertInterval(const std::string& value) {
-    const std::optional<double> number = ParseDecimalNumber(value);
-    if (!number) {
-        ThrowMismatch("Interval", "a number", value);
-    }
-    const std::optional<int32_t> hours = RoundToWholeNumber(*number);
-    if (!hours) {
-        throw OverflowError(SettingName("Interval") + " holds \"" + value +
-                            "\", which is outside the interval's range of " +
-                            std::to_string(INT32_MIN) + " to " + std::to_string(INT32_MAX) +
-                            " hours.");
-    }
-    return *hours;
+    return ConvertNumber("Interval", value, "the interval's range", " hours");
 }
 
 bool IsReadableInterval(const std::string& value) {

@@ -64,8 +64,13 @@ TEST(IndexSettingsTest, DriveListFollowsTheCountAndItsBound) {
                    std::string(1, static_cast<char>('C' + i)) + ":");
     }
     SettingsFields fields;
-    for (const auto& [count, drives, lastDrive] :
-         {std::tuple{"3", 3, "E:"}, {"1", 1, "C:"}, {"0", 1, ""}, {"-2", 1, ""}}) {
+    for (const auto& [count, drives, lastDrive] : {std::tuple{"3", 3, "E:"},
+                                                   {"1", 1, "C:"},
+                                                   {"0", 1, ""},
+                                                   {"-2", 1, ""},
+                                                   {"2.0", 2, "D:"},
+                                                   {"2.5", 2, "D:"},
+                                                   {"0.4", 1, ""}}) {
         store.Save("Index", "DriveCount", count);
         fields.ReadFrom(store);
         EXPECT_EQ(fields.drives.count, drives) << count;
@@ -73,6 +78,8 @@ TEST(IndexSettingsTest, DriveListFollowsTheCountAndItsBound) {
                   *lastDrive ? lastDrive : DefaultRoot());
         EXPECT_EQ(fields.drives.slots[static_cast<size_t>(drives)], "");  // nothing stale
     }
+    store.Save("Index", "DriveCount", "two");
+    EXPECT_THROW(fields.ReadFrom(store), TypeMismatchError);
     store.Save("Index", "DriveCount", "22");
     EXPECT_THROW(fields.ReadFrom(store), OutOfRangeError);
     EXPECT_EQ(fields.drives.count, 21);
