@@ -92,15 +92,17 @@ void clsIndex::SaveIndex(ProgressWindow& ParentForm, FolderTable folders,
                          std::shared_ptr<IndexItems> items) {
     ParentForm.SetCounter("Saving...");
     services_.events.DoEvents();
-    const double now = services_.clock.Now();
-    ReplaceFileWhole(ProgramFile(kIndexFile), FormatIndexFile(now, folders, *items));
-    // A new collection, so that lists of matches from the old index stay whole.
+    // The new index is what the program holds, and is dated now, whether or not it can be
+    // written: a program folder that refuses the file then gives one error, not a rebuild at
+    // every tick until the day has passed. A new collection, so that lists of matches from the
+    // old index stay whole.
     folders_ = std::move(folders);
     items_ = std::move(items);
-    LastUpdated = now;
+    LastUpdated = services_.clock.Now();
     // The assignments' folder numbers point into the table that has just changed; "words.txt"
     // holds their folders as paths.
     LoadWords();
+    ReplaceFileWhole(ProgramFile(kIndexFile), FormatIndexFile(LastUpdated, folders_, *items_));
 }
 
 void clsIndex::ReportCancel() {

@@ -228,10 +228,13 @@ TEST_F(EngineTest, SecondBuildDuringABuildReturnsAtOnce) {
     EXPECT_EQ(ui.log.back(), "end");
 }
 
-TEST_F(EngineTest, FailedSaveEndsTheBuildSoTheNextOneRuns) {
+TEST_F(EngineTest, AFailedSaveKeepsTheNewIndexDatedNowAndEndsTheBuild) {
+    tree.WriteFile("r/new.txt", "");
     UseRoots({"r"});
     auto index = MakeIndex(TreePath("no such folder"));
     EXPECT_THROW(index->CreateIndex(true, ui), FileError);
+    EXPECT_EQ(index->LastUpdated, clock.now);
+    EXPECT_EQ(Matches(*index, "new"), (Paths{TreePath("r/new.txt")}));
     EXPECT_FALSE(index->Indexing());
     EXPECT_EQ(ui.log.back(), "end");
 }

@@ -3,12 +3,14 @@
 #include <filesystem>
 #include <set>
 
+#include "platform/FileSystem.h"
 #include "platform/OleDate.h"
 #include "platform/Path.h"
 #include "platform/Text.h"
 #include "ui/Dpi.h"
 #include "ui/FocusColors.h"
 #include "ui/Hourglass.h"
+#include "ui/WindowErrors.h"
 #include "ui/main/MainWindowFixture.h"
 
 namespace quorin::test {
@@ -318,6 +320,27 @@ TEST_F(MainWindowTest, TheTimerRebuildsOnlyAfterAFullDay) {
     clock.now = built + 1.0 + 1.0 / 86400.0;
     SendMessageW(Window(), WM_TIMER, kTimer1Id, 0);
     EXPECT_EQ(index.Get().LastUpdated, clock.now);
+}
+
+TEST_F(MainWindowTest, AnIndexThatCannotBeSavedIsToldOnceAndBuiltAgainOnlyAfterADay) {
+    std::vector<std::string> reports;
+    SetWindowErrorHandler([&](std::string_view message) { reports.emplace_back(message); });
+    Load();
+    index.Get();
+    // A folder in its place: the program folder refuses the file.
+    std::filesystem::create_directory(FsPath(JoinPath(program.Path(), "index.txt")));
+    const double start = clock.now;
+    for (int tick = 0; tick < 4; ++tick) {
+        SendMessageW(Window(), WM_TIMER, kTimer1Id, 0);
+        clock.now += 65.0 / 86400.0;
+    }
+    EXPECT_EQ(reports.size(), 1u);
+    EXPECT_EQ(index.Get().LastUpdated, start);
+
+    clock.now = start + 1.0 + 1.0 / 86400.0;
+    SendMessageW(Window(), WM_TIMER, kTimer1Id, 0);
+    SetWindowErrorHandler(nullptr);
+    EXPECT_EQ(reports.size(), 2u);
 }
 
 TEST_F(MainWindowTest, EveryBuildKeepsTheWaitPointerForItsWholeLength) {
