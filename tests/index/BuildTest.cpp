@@ -192,8 +192,10 @@ TEST_F(EngineTest, CancelKeepsThePreviousIndexAndItsFile) {
 
     ui.onEvents = nullptr;
     index->CreateIndex(true, ui);
-    const std::string before = ReadWholeFile(ProgramFile("index.txt"));
     const auto oldMatches = index->FindMatch("old");
+    // The index in memory is the one kept, not the file, which may have changed since.
+    const std::string changed = "no longer an index\r\n";
+    ReplaceFileWhole(ProgramFile("index.txt"), changed);
     std::filesystem::remove(FsPath(TreePath("r/old.txt")));
     tree.WriteFile("r/new.txt", "");
     clock.now += 1;
@@ -205,7 +207,7 @@ TEST_F(EngineTest, CancelKeepsThePreviousIndexAndItsFile) {
               "index created at " +
                   FormatLocalDateTime(45000.5) + ".");
     EXPECT_TRUE(ui.okInformation);
-    EXPECT_EQ(ReadWholeFile(ProgramFile("index.txt")), before);
+    EXPECT_EQ(ReadWholeFile(ProgramFile("index.txt")), changed);
     EXPECT_EQ(index->LastUpdated, 45000.5);
     EXPECT_EQ(Matches(*index, ".txt"), (Paths{TreePath("r/old.txt")}));
     EXPECT_EQ(oldMatches->Item(1).Filename, "old.txt");  // an open list survives any rebuild
