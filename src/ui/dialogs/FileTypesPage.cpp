@@ -84,11 +84,14 @@ void FileTypesPage::OnCommand(int id, int code, HWND) {
 }
 
 // The chosen mode's list takes the complement of the other's selection, so that the types
-// indexed stay the same.
+// indexed stay the same. A click on the option already chosen, which Windows reports as well,
+// is no change of mode.
 void FileTypesPage::optFileTypes_Click(FileTypeList chosen) {
     EnableWindow(List(chosen), TRUE);
     EnableWindow(List(Other(chosen)), FALSE);
-    if (suppressEvents_ || !lists_) {
+    const bool changed = chosen != mode_;
+    mode_ = chosen;
+    if (suppressEvents_ || !lists_ || !changed) {
         return;
     }
     suppressEvents_ = true;

@@ -44,6 +44,7 @@ class FileTypesPage final : public OptionsPage {
     std::optional<FileTypeLists> lists_;
     std::string workingFilter_;
     bool savedInclude_ = true;
+    FileTypeList mode_ = FileTypeList::Include;  // the mode the lists were last set for
     bool suppressEvents_ = false;
 };
 

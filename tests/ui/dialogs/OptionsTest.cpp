@@ -218,6 +218,8 @@ TEST_F(OptionsTest, FileTypesFollowTheSavedModeAndAModeChangeKeepsTheTypesIndexe
     EXPECT_EQ(Selected(IDC_OPTIONS_INCLUDE), (std::vector<std::string>{".doc"}));
     EXPECT_TRUE(Selected(IDC_OPTIONS_EXCLUDE).empty());
     EXPECT_FALSE(IsWindowEnabled(Control(IDC_OPTIONS_EXCLUDE)));
+    SendMessageW(Control(IDC_OPTIONS_INCLUDEMODE), BM_CLICK, 0, 0);  // already chosen: no change
+    EXPECT_EQ(Selected(IDC_OPTIONS_INCLUDE), (std::vector<std::string>{".doc"}));
     CheckRadioButton(GetParent(Control(IDC_OPTIONS_EXCLUDEMODE)), IDC_OPTIONS_INCLUDEMODE,
                      IDC_OPTIONS_EXCLUDEMODE, IDC_OPTIONS_EXCLUDEMODE);
     Click(IDC_OPTIONS_EXCLUDEMODE);
