@@ -11,6 +11,7 @@
 #include "platform/registry/SignInStart.h"
 #include "ui/FocusColors.h"
 #include "ui/TabKeys.h"
+#include "ui/WindowText.h"
 #include "ui/dialogs/DialogTexts.h"
 #include "ui/help/Help.h"
 
@@ -155,10 +156,15 @@ void frmOptions::cmdOK_Click() {
                 return;
         }
     }
+    if (!IntervalAccepted()) {
+        return;
+    }
+    // The start options first: when one of them cannot be stored, "Index" is not written either,
+    // so that the stored settings never run ahead of the engine.
+    SaveStartOptions();
     if (!SaveSettings()) {
         return;
     }
-    SaveStartOptions();
     services_.index.UpdateSettings();
     if (wordsPage_.WordsChanged()) {
         services_.index.LoadWords();
@@ -169,20 +175,26 @@ void frmOptions::cmdOK_Click() {
     EndDialog(IDOK);
 }
 
+// False, with the reason shown and the focus in the box, when the next start could not read
+// the interval.
+bool frmOptions::IntervalAccepted() {
+    const std::string interval = WindowText(generalPage_.Interval());
+    if (IsReadableInterval(interval)) {
+        return true;
+    }
+    services_.prompter.Ask(kBadIntervalTitle, BadIntervalText(interval), PromptButtons::Ok,
+                           PromptIcon::Exclamation);
+    Panel(0);
+    SendMessageW(hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(generalPage_.Interval()), TRUE);
+    return false;
+}
+
 // False, with the reason shown, when nothing or not everything could be stored.
 bool frmOptions::SaveSettings() {
     IndexOptions options;
     generalPage_.Collect(options);
     options.filter = fileTypesPage_.WorkingFilter();
     options.filterIsInclude = fileTypesPage_.IncludeOnly();
-    if (!IsReadableInterval(options.interval)) {
-        services_.prompter.Ask(kBadIntervalTitle, BadIntervalText(options.interval),
-                               PromptButtons::Ok, PromptIcon::Exclamation);
-        Panel(0);
-        SendMessageW(hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(generalPage_.Interval()),
-                     TRUE);
-        return false;
-    }
     try {
         SaveIndexOptions(options, services_.settings);
     } catch (const Error& error) {

@@ -63,6 +63,7 @@ class frmOptions final : public Dialog {
     void TabStrip1_Click();
     void ShowPage();
     void cmdOK_Click();
+    bool IntervalAccepted();
     bool SaveSettings();
     void SaveStartOptions();
     void LayOutPages();

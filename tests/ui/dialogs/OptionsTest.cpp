@@ -8,10 +8,12 @@
 
 #include "DialogTestHelpers.h"
 #include "OptionsDialog.h"
+#include "platform/Errors.h"
 #include "platform/Path.h"
 #include "platform/Text.h"
 #include "platform/TextFile.h"
 #include "platform/registry/SignInStart.h"
+#include "ui/WindowErrors.h"
 #include "ui/WindowText.h"
 #include "ui/dialogs/frmOptions.h"
 #include "ui/main/MainFakes.h"
@@ -32,6 +34,27 @@ class FakeHotkeys final : public HotkeyTarget {
 
     std::vector<std::optional<Hotkey>> applied;
     Hotkey taken{MOD_ALT, VK_SPACE};
+};
+
+// The settings as the dialog sees them, where the key named in `refused` ("Section/Key")
+// cannot be written.
+class RefusingStore final : public SettingsStore {
+  public:
+    explicit RefusingStore(SettingsStore& store) : store_(store) {}
+    std::string Get(std::string_view section, std::string_view key,
+                    std::string_view defaultValue) const override {
+        return store_.Get(section, key, defaultValue);
+    }
+    void Save(std::string_view section, std::string_view key, std::string_view value) override {
+        if (refused == std::string(section) + "/" + std::string(key)) {
+            throw Error("The setting \"" + refused + "\" could not be saved.");
+        }
+        store_.Save(section, key, value);
+    }
+    std::string refused;
+
+  private:
+    SettingsStore& store_;
 };
 
 class OptionsTest : public ProgramFixture {
@@ -107,13 +130,14 @@ class OptionsTest : public ProgramFixture {
                      reinterpret_cast<LPARAM>(field));
     }
 
+    RefusingStore store{settings};
     FakeFileChooser files;
     FakeHotkeys hotkeys;
     SignInStart signIn{"\"C:\\Q\\quorin.exe\" /tray", kScratchRun};
     std::vector<std::string> roots;
     int addWords = 0;
     frmOptions dialog{OptionsServices{
-        index.Get(), settings, prompter, help, files,
+        index.Get(), store, prompter, help, files,
         DriveSource{[] {
                         return std::vector<std::string>{"a:", "c: [SYSTEM]", "d: [DATA]",
                                                         "e: [DVD]", "n: [SHARE]"};
@@ -211,6 +235,20 @@ TEST_F(OptionsTest, AnIntervalTheNextStartCouldNotReadIsRefused) {
     Click(IDCANCEL);
     EXPECT_FALSE(IsWindow(dialog.hwnd()));
     EXPECT_EQ(Setting("DriveCount"), "2");
+}
+
+TEST_F(OptionsTest, AHotkeyThatCannotBeStoredLeavesTheIndexSettingsUnwrittenAndTheDialogOpen) {
+    std::vector<std::string> reports;
+    SetWindowErrorHandler([&](std::string_view message) { reports.emplace_back(message); });
+    store.refused = "Main/Hotkey";
+    Open(0);
+    SetText(Control(IDC_OPTIONS_INTERVAL), "12");
+    Click(IDOK);
+    SetWindowErrorHandler(nullptr);
+    EXPECT_EQ(reports, std::vector<std::string>{"The setting \"Main/Hotkey\" could not be saved."});
+    EXPECT_EQ(Setting("Interval"), "-");
+    EXPECT_EQ(index.Get().UpdateInterval, 24);
+    EXPECT_TRUE(IsWindow(dialog.hwnd()));
 }
 
 TEST_F(OptionsTest, FileTypesFollowTheSavedModeAndAModeChangeKeepsTheTypesIndexed) {
