@@ -20,6 +20,7 @@
 #include "ui/WindowText.h"
 #include "ui/matches/MatchesLayout.h"
 #include "ui/matches/MatchesPlace.h"
+#include "ui/matches/TypedRow.h"
 
 namespace quorin {
 namespace {
@@ -238,6 +239,15 @@ void frmMatches::lvwItems_KeyPress(int key) {
     }
 }
 
+// The list's own type-to-find asks here, since the rows are the window's.
+LRESULT frmMatches::lvwItems_FindItem(const NMLVFINDITEMW& find) const {
+    if ((find.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || find.lvfi.psz == nullptr) {
+        return -1;
+    }
+    return FindTypedRow(rows_, find.lvfi.psz, find.iStart,
+                        ListView_GetNextItem(lvwItems, -1, LVNI_FOCUSED));
+}
+
 void frmMatches::lvwItems_ColumnClick(int column) {
     sort_.ColumnClick(column);
     SortRows();
@@ -266,6 +276,8 @@ LRESULT frmMatches::OnNotify(const NMHDR& header) {
         case NM_CUSTOMDRAW:
             return DrawRow(
                 const_cast<NMLVCUSTOMDRAW&>(reinterpret_cast<const NMLVCUSTOMDRAW&>(header)));
+        case LVN_ODFINDITEMW:
+            return lvwItems_FindItem(reinterpret_cast<const NMLVFINDITEMW&>(header));
         default:
             break;
     }

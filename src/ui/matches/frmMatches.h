@@ -80,6 +80,7 @@ class frmMatches final : public Window {
     void lvwItems_DblClick();
     void lvwItems_KeyPress(int key);
     void lvwItems_ColumnClick(int column);
+    LRESULT lvwItems_FindItem(const NMLVFINDITEMW& find) const;
 
     void CreateControls();
     void ApplyFont();

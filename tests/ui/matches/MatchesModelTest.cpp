@@ -1,8 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/Text.h"
+#include "ui/matches/MatchRows.h"
 #include "ui/matches/MatchesLayout.h"
 #include "ui/matches/MatchesPlace.h"
 #include "ui/matches/MatchesSort.h"
+#include "ui/matches/TypedRow.h"
 
 namespace quorin {
 namespace {
@@ -79,6 +86,40 @@ TEST(MatchesPlaceTest, AWindowIsKeptInsideTheWorkAreaAndShrunkOnlyWhenLarger) {
     expectRect(CentredIn({480, 320}, work), {400, 220, 880, 540});
     expectRect(CentredIn({480, 320}, {1280, 0, 3200, 1040}), {2000, 360, 2480, 680});
     expectRect(CentredIn({2000, 320}, work), {0, 220, 1280, 540});
+}
+
+TEST(TypedRowTest, FindsTheNextNameBeginningWithTheTextInTheOrderShown) {
+    auto items = std::make_shared<IndexItems>();
+    std::vector<int32_t> positions;
+    for (const char* name : {"alpha report", "Beta", "gamma report", "Gold", "beta two", "émile"}) {
+        items->Add(name, 0);
+        positions.push_back(items->Count());
+    }
+    const MatchList matches(items, positions);
+    MatchRows rows;
+    rows.Fill(matches, [](int32_t) { return std::string("C:\\Work"); });
+
+    struct Case {
+        const wchar_t* typed;
+        int start;
+        int current;
+        int row;
+    };
+    // The list starts a search after the current row for a first letter, and at it for more.
+    const Case unsorted[] = {
+        {L"g", 1, 0, 2},      {L"G", 1, 0, 2},   {L"ga", 2, 2, 2}, {L"go", 2, 2, 3},
+        {L"gg", 2, 2, 3},     {L"ggg", 3, 3, 2}, {L"b", 5, 4, 1},  {L"\u00C9", 0, 0, 5},
+        {L"betax", 0, 0, -1}, {L"x", 3, 2, -1},  {L"", 0, 0, -1},  {L"a", 6, 5, 0},
+    };
+    for (const Case& c : unsorted) {
+        EXPECT_EQ(FindTypedRow(rows, c.typed, c.start, c.current), c.row) << Narrow(c.typed);
+    }
+
+    // Gold, gamma report, émile, beta two, Beta, alpha report.
+    rows.Sort(MatchesSort::kName, MatchesSortOrder::Descending);
+    EXPECT_EQ(FindTypedRow(rows, L"b", 0, -1), 3);
+    EXPECT_EQ(FindTypedRow(rows, L"bb", 3, 3), 4);
+    EXPECT_EQ(FindTypedRow(rows, L"g", 2, 1), 0);
 }
 
 }  // namespace

@@ -268,6 +268,22 @@ TEST_F(MatchesWindowTest, EnterInTheListOpensAsADoubleClickDoes) {
     }
 }
 
+TEST_F(MatchesWindowTest, TypingTheStartOfANameSelectsItsRowForEnter) {
+    auto items = std::make_shared<IndexItems>();
+    for (const char* name : {"alpha report", "beta report", "gamma report"}) {
+        items->Add(name, 0);
+    }
+    frmMatches& form = frmMatches::Load(Host());
+    const HWND window = form.hwnd();
+    form.Word("report");
+    form.Matches(MatchList(items, {1, 2, 3}));
+    SendMessageW(List(window), WM_CHAR, 'g', 1);
+    PressKey(List(window), VK_RETURN);
+    MessagePump().DoEvents();
+    ASSERT_EQ(shell_.opened.size(), 1u);
+    EXPECT_EQ(shell_.opened[0].file, "C:\\Work\\gamma report");
+}
+
 TEST_F(MatchesWindowTest, TheDialogKeysOpenTheFocusedListsRowAndEscapeCloses) {
     const HWND form = ShowMatches("plan", *index_->FindMatch("plan"), Host());
     SelectRow(List(form), 2);
