@@ -360,8 +360,8 @@ void frmMatches::ApplyFont() {
 // without one the window comes up in the middle of the screen the user typed the word on.
 void frmMatches::RestorePlace() {
     const auto read = [this](std::string_view key) {
-        // Anything but a whole number counts as never saved.
-        return ParseWholeNumber(host_->settings.Get(kSection, key, "0")).value_or(0);
+        // Read as the main window reads its place; anything but a number counts as never saved.
+        return ParseRoundedNumber(host_->settings.Get(kSection, key, "0")).value_or(0);
     };
     const int width = read("Width");
     RECT place{};

@@ -313,9 +313,10 @@ TEST_F(MatchesWindowTest, KeepsItsPlaceInTwipsAndNeverGetsSmallerThan3000) {
     EXPECT_EQ(Saved("Width"), std::to_string(size.width));
     EXPECT_EQ(Saved("Height"), std::to_string(size.height));
 
+    // Read back rounded, as the main window reads its place.
     settings_.Save("Matches", "Left", "1500");
-    settings_.Save("Matches", "Top", "1200");
-    settings_.Save("Matches", "Width", "6000");
+    settings_.Save("Matches", "Top", "1200.4");
+    settings_.Save("Matches", "Width", "6000.5");
     settings_.Save("Matches", "Height", "4500");
     const HWND restored = Load();
     GetWindowRect(restored, &frame);
