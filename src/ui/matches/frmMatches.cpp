@@ -401,8 +401,22 @@ std::optional<int> frmMatches::RowImage(int row) {
         images_.try_emplace(ctlIconExtractor::ImageKey(name, folder), std::nullopt);
     if (added) {
         image->second = ctlIconExtractor1.RetrieveFileIcon(name, folder);
+        if (!image->second) {
+            image->second = BlankImage();
+        }
     }
     return image->second;
+}
+
+// A row whose type has no icon shows a blank image of the same size, so that its name lines up
+// with the others. The extractor adds its cleared surface when there is nothing to extract.
+std::optional<int> frmMatches::BlankImage() {
+    if (!blankImage_) {
+        std::string noFile;
+        int noIndex = 0;
+        blankImage_ = ctlIconExtractor1.AddIcon("", noFile, noIndex);
+    }
+    return blankImage_;
 }
 
 void frmMatches::SelectRow(int row) {

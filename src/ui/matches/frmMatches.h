@@ -88,6 +88,7 @@ class frmMatches final : public Window {
     void ShowRow(LVITEMW& item);
     LRESULT DrawRow(NMLVCUSTOMDRAW& draw) const;
     std::optional<int> RowImage(int row);
+    std::optional<int> BlankImage();
     void SelectRow(int row);
     std::optional<int> SelectedRow() const;
     void OpenRow(int row);
@@ -100,6 +101,7 @@ class frmMatches final : public Window {
     std::optional<MatchList> matches_;
     MatchRows rows_;
     std::unordered_map<std::string, std::optional<int>> images_;  // by ctlIconExtractor::ImageKey
+    std::optional<int> blankImage_;
     MatchesSort sort_;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
 

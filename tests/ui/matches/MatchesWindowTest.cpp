@@ -158,11 +158,17 @@ TEST_F(MatchesWindowTest, ListsTheMatchesInCollectionOrderWithTheFirstSelected) 
     EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_SELECTED), 0);
     EXPECT_EQ(ListView_GetNextItem(list, 0, LVNI_SELECTED), -1);
 
-    // Each found icon is the next image of the list the rows draw from; the unknown type has none.
+    // Each icon is the next image of the list the rows draw from; the unknown type has a blank
+    // one, so that its name lines up with the others.
     EXPECT_EQ(RowImage(list, 0), 0);
-    EXPECT_EQ(RowImage(list, 1), I_IMAGENONE);
-    EXPECT_EQ(RowImage(list, 2), 1);
-    EXPECT_EQ(ImageList_GetImageCount(ListView_GetImageList(list, LVSIL_SMALL)), 2);
+    EXPECT_EQ(RowImage(list, 1), 1);
+    EXPECT_EQ(RowImage(list, 2), 2);
+    EXPECT_EQ(ImageList_GetImageCount(ListView_GetImageList(list, LVSIL_SMALL)), 3);
+    RECT named{};
+    RECT blank{};
+    ListView_GetItemRect(list, 0, &named, LVIR_LABEL);
+    ListView_GetItemRect(list, 1, &blank, LVIR_LABEL);
+    EXPECT_EQ(blank.left, named.left);
 
     // Tab goes round the list, the check box and Open.
     const HWND check = GetDlgItem(form, kMatchesAssociateId);
