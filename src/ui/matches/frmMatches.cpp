@@ -239,9 +239,12 @@ void frmMatches::lvwItems_KeyPress(int key) {
     }
 }
 
-// The list's own type-to-find asks here, since the rows are the window's.
+// The list's own type-to-find asks here, for the beginning of a name, since the rows are the
+// window's.
 LRESULT frmMatches::lvwItems_FindItem(const NMLVFINDITEMW& find) const {
-    if ((find.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || find.lvfi.psz == nullptr) {
+    constexpr UINT kSubstring = 0x0004;  // LVFI_SUBSTRING, which MinGW's headers lack
+    if ((find.lvfi.flags & (LVFI_STRING | kSubstring | LVFI_PARTIAL)) == 0 ||
+        find.lvfi.psz == nullptr) {
         return -1;
     }
     return FindTypedRow(rows_, find.lvfi.psz, find.iStart,
