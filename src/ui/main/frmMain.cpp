@@ -173,7 +173,7 @@ void frmMain::BeginIndexing(const std::string& animationPath) {
 }
 
 void frmMain::SetCounter(std::string_view text) {
-    SetText(lblCounter, text);
+    SetLiveText(lblCounter, text);
 }
 
 void frmMain::EndIndexing() {
