@@ -48,8 +48,9 @@ LOGFONTW FontDescription(HFONT font, HWND window) {
     return description;
 }
 
-// Posted to the label itself by DoDefaultAction.
-constexpr UINT kDefaultActionMessage = WM_USER + 1;
+// Posted to the label itself by DoDefaultAction; clear of DM_SETDEFID (WM_USER + 1), which the
+// dialog manager sends around.
+constexpr UINT kDefaultActionMessage = WM_USER + 0x100;
 
 }  // namespace
 
