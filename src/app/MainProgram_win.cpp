@@ -12,6 +12,7 @@
 #include "platform/ShellExecuteShell.h"
 #include "platform/Text.h"
 #include "platform/registry/SignInStart.h"
+#include "ui/ComApartment.h"
 #include "ui/MessagePump.h"
 #include "ui/help/ProgramHelp.h"
 
@@ -27,6 +28,7 @@ int RunQuorin(bool atSignIn) {
         sizeof(INITCOMMONCONTROLSEX),
         ICC_STANDARD_CLASSES | ICC_ANIMATE_CLASS | ICC_PROGRESS_CLASS | ICC_LISTVIEW_CLASSES};
     InitCommonControlsEx(&controls);
+    const ComApartment apartment;
 
     RegistrySettingsStore settings;
     SystemClock clock;

@@ -15,4 +15,9 @@ void SetText(HWND window, std::string_view text) {
     SetWindowTextW(window, Widen(text).c_str());
 }
 
+void SetLiveText(HWND window, std::string_view text) {
+    SetText(window, text);
+    NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, window, OBJID_CLIENT, CHILDID_SELF);
+}
+
 }  // namespace quorin

@@ -48,7 +48,17 @@ LOGFONTW FontDescription(HFONT font, HWND window) {
     return description;
 }
 
+// Posted to the label itself by DoDefaultAction; clear of DM_SETDEFID (WM_USER + 1), which the
+// dialog manager sends around.
+constexpr UINT kDefaultActionMessage = WM_USER + 0x100;
+
 }  // namespace
+
+LabelWindow::~LabelWindow() {
+    if (accessible_) {
+        accessible_->Disconnect();
+    }
+}
 
 std::string LabelWindow::Caption() const {
     return WindowText(hwnd());
@@ -64,6 +74,17 @@ bool LabelWindow::Enabled() const {
 
 void LabelWindow::SetEnabled(bool enabled) {
     EnableWindow(hwnd(), enabled ? TRUE : FALSE);
+}
+
+IAccessible* LabelWindow::Accessible() {
+    if (!accessible_) {
+        accessible_ = LabelAccessible::Make(*this, Role());
+    }
+    return accessible_.Get();
+}
+
+void LabelWindow::DoDefaultAction() {
+    PostMessageW(hwnd(), kDefaultActionMessage, 0, 0);
 }
 
 HWND LabelWindow::CreateLabel(ATOM atom, HWND parent, int id, std::string_view caption, int x,
@@ -88,6 +109,10 @@ void LabelWindow::Repaint() {
     InvalidateRect(hwnd(), nullptr, FALSE);
 }
 
+void LabelWindow::Announce(DWORD event) {
+    NotifyWinEvent(event, hwnd(), OBJID_CLIENT, CHILDID_SELF);
+}
+
 LRESULT LabelWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_SETFONT:
@@ -99,6 +124,7 @@ LRESULT LabelWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             const LRESULT result = Window::HandleMessage(message, wParam, lParam);
             CaptionChanged();
             Repaint();
+            Announce(EVENT_OBJECT_NAMECHANGE);
             return result;
         }
         case WM_ENABLE:
@@ -127,8 +153,20 @@ LRESULT LabelWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             OnKeyDown(wParam, lParam);
             return 0;
         case WM_SETFOCUS:
+            Repaint();
+            Announce(EVENT_OBJECT_FOCUS);
+            return 0;
         case WM_KILLFOCUS:
             Repaint();
+            return 0;
+        case WM_GETOBJECT:
+            // Only the client area is ours to describe; the frame is the system's.
+            if (static_cast<DWORD>(lParam) == static_cast<DWORD>(OBJID_CLIENT)) {
+                return LresultFromObject(IID_IAccessible, wParam, Accessible());
+            }
+            return Window::HandleMessage(message, wParam, lParam);
+        case kDefaultActionMessage:
+            Click();
             return 0;
         case WM_CAPTURECHANGED:
             OnCaptureChanged(reinterpret_cast<HWND>(lParam));
@@ -200,9 +238,8 @@ void LabelWindow::OnMouse(UINT message, LPARAM lParam) {
 
 void LabelWindow::OnKeyDown(WPARAM key, LPARAM flags) {
     constexpr LPARAM kRepeat = 1 << 30;  // held down: one click per press
-    if ((key == VK_RETURN || key == VK_SPACE) && (flags & kRepeat) == 0 && Enabled()) {
-        Clicked();
-        NotifyClick();  // last: the parent may destroy this label
+    if ((key == VK_RETURN || key == VK_SPACE) && (flags & kRepeat) == 0) {
+        Click();
     }
 }
 
@@ -220,6 +257,13 @@ void LabelWindow::OnDisabled() {
     model_.Reset();
     if (captured) {
         ReleaseCapture();
+    }
+}
+
+void LabelWindow::Click() {
+    if (Enabled()) {
+        Clicked();
+        NotifyClick();  // last: the parent may destroy this label
     }
 }
 

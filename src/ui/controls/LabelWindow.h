@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "ui/Window.h"
+#include "ui/controls/LabelAccessible.h"
 #include "ui/controls/LabelFonts.h"
 #include "ui/controls/LabelModel.h"
 #include "ui/controls/OleColor.h"
@@ -36,12 +37,24 @@ struct LabelLook {
 // parent sends with WM_SETFONT, or else the system message font. Any mouse button presses.
 // A label made with WS_TABSTOP is reached with Tab like a button: it shows a focus rectangle
 // while it has the focus, and Enter or Space clicks it.
+//
+// For screen readers a label answers WM_GETOBJECT for its client area with its own
+// IAccessible (see LabelAccessible), and raises the focus and name-change WinEvents.
 class LabelWindow : public Window {
   public:
+    ~LabelWindow() override;
+
     std::string Caption() const;
     void SetCaption(std::string_view caption);
     bool Enabled() const;
     void SetEnabled(bool enabled);
+    bool Selected() const { return model_.Selected(); }
+
+    // The object WM_GETOBJECT hands out, made on first use; the label keeps a reference.
+    IAccessible* Accessible();
+    // A click as by Enter, made once the caller has returned (a reader's call must not wait
+    // for what the click opens).
+    void DoDefaultAction();
 
   protected:
     LabelWindow() = default;
@@ -60,6 +73,7 @@ class LabelWindow : public Window {
     }
 
     virtual LabelLook Look() const = 0;
+    virtual LabelRole Role() const = 0;
     virtual bool Inside(int x, int y, int width, int height) const = 0;
     // Sizes the control from its caption: whenever it is sized, at creation and when its font
     // changes.
@@ -71,6 +85,8 @@ class LabelWindow : public Window {
     SIZE MeasureText(std::string_view text, bool bold);
     void ResizeTo(SIZE size);
     void Repaint();
+    // Tells screen readers about the label's client object (EVENT_OBJECT_...).
+    void Announce(DWORD event);
     LabelModel& Model() { return model_; }
     const LabelModel& Model() const { return model_; }
 
@@ -84,12 +100,14 @@ class LabelWindow : public Window {
     void OnKeyDown(WPARAM key, LPARAM flags);
     void OnCaptureChanged(HWND newOwner);
     void OnDisabled();
+    void Click();
     void NotifyClick();
     void Paint(HDC dc);
 
     HFONT font_ = nullptr;  // the parent's; not ours to delete
     LabelFonts fonts_;
     LabelModel model_;
+    Microsoft::WRL::ComPtr<LabelAccessible> accessible_;
 };
 
 }  // namespace quorin

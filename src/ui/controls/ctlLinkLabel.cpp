@@ -34,6 +34,10 @@ LabelLook ctlLinkLabel::Look() const {
     return {kLinkBlue, SystemColor(COLOR_GRAYTEXT), backColor_, false};
 }
 
+LabelRole ctlLinkLabel::Role() const {
+    return {ROLE_SYSTEM_LINK, L"Click", STATE_SYSTEM_LINKED};
+}
+
 bool ctlLinkLabel::Inside(int x, int y, int width, int height) const {
     return InsideLinkLabel(x, y, width, height);
 }

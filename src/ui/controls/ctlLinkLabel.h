@@ -27,6 +27,7 @@ class ctlLinkLabel final : public LabelWindow {
 
   private:
     LabelLook Look() const override;
+    LabelRole Role() const override;
     bool Inside(int x, int y, int width, int height) const override;
     void UserControl_Resize() override;
     void CaptionChanged() override;

@@ -21,17 +21,17 @@ ctlTabLabel* ctlTabLabel::From(HWND window) {
     return Bound<ctlTabLabel>(window, Register());
 }
 
-bool ctlTabLabel::Selected() const {
-    return Model().Selected();
-}
-
 void ctlTabLabel::SetSelected(bool selected) {
+    const bool newlySelected = selected && !Selected();
     Model().SetSelected(selected);
     if (selected) {
         DeselectOtherTabs();
     }
     bold_ = selected;
     Repaint();
+    if (newlySelected) {
+        Announce(EVENT_OBJECT_SELECTION);
+    }
 }
 
 LabelLook ctlTabLabel::Look() const {
@@ -43,6 +43,10 @@ LabelLook ctlTabLabel::Look() const {
     // text still reads as a disabled tab.
     return {SystemColor(COLOR_HIGHLIGHTTEXT), SystemColor(COLOR_3DLIGHT),
             SystemColor(COLOR_BTNSHADOW), bold_};
+}
+
+LabelRole ctlTabLabel::Role() const {
+    return {ROLE_SYSTEM_PAGETAB, L"Switch", STATE_SYSTEM_SELECTABLE};
 }
 
 bool ctlTabLabel::Inside(int x, int y, int width, int height) const {

@@ -30,11 +30,11 @@ class ctlTabLabel final : public LabelWindow {
     static ctlTabLabel& Create(HWND parent, int id, std::string_view caption, int x, int y);
     static ctlTabLabel* From(HWND window);
 
-    bool Selected() const;
     void SetSelected(bool selected);
 
   private:
     LabelLook Look() const override;
+    LabelRole Role() const override;
     bool Inside(int x, int y, int width, int height) const override;
     void UserControl_Resize() override;
     void Clicked() override;

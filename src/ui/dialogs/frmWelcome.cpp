@@ -161,7 +161,7 @@ void frmWelcome::BeginIndexing(const std::string& animationPath) {
 }
 
 void frmWelcome::SetCounter(std::string_view text) {
-    SetText(lblCounter, text);
+    SetLiveText(lblCounter, text);
 }
 
 // Enter goes on with whichever of "Next >" and "Finish" is shown; Escape is "Cancel".

@@ -91,6 +91,9 @@ void frmMain::CreatePanelControls() {
         this->*link.member =
             picPanel.AddLink(link.panel, link.id, link.caption, link.left, link.top);
     }
+    // Screen readers name the word box by the label just before it in the tab order.
+    SetWindowPos(cboWord.hwnd(), lblEnterWord, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     ShowWindow(ProgressBar1, SW_HIDE);
 }
 
@@ -173,7 +176,7 @@ void frmMain::BeginIndexing(const std::string& animationPath) {
 }
 
 void frmMain::SetCounter(std::string_view text) {
-    SetText(lblCounter, text);
+    SetLiveText(lblCounter, text);
 }
 
 void frmMain::EndIndexing() {

@@ -5,6 +5,7 @@
 #include "cli/SilentProgressWindow.h"
 #include "platform/Path.h"
 #include "platform/TextFile.h"
+#include "support/ReaderNames.h"
 #include "ui/FocusColors.h"
 #include "ui/WindowText.h"
 #include "ui/dialogs/frmNewWord.h"
@@ -39,6 +40,10 @@ class NewWordTest : public ProgramFixture {
     FakeFileChooser files;
     frmNewWord dialog{NewWordServices{index.Get(), prompter, files, nullptr}};
 };
+
+TEST_F(NewWordTest, AReaderCanNameBothFields) {
+    EXPECT_EQ(UnnamedControls(Open().hwnd()), std::vector<std::string>{});
+}
 
 TEST_F(NewWordTest, RefusesAnEmptyWordBeforeABadFileAndKeepsTheFocusInTheField) {
     Open();

@@ -13,6 +13,7 @@
 #include "platform/Text.h"
 #include "platform/TextFile.h"
 #include "platform/registry/SignInStart.h"
+#include "support/ReaderNames.h"
 #include "ui/WindowErrors.h"
 #include "ui/WindowText.h"
 #include "ui/dialogs/frmOptions.h"
@@ -151,6 +152,10 @@ class OptionsTest : public ProgramFixture {
         },
         [this] { ++addWords; }, nullptr, &hotkeys, &signIn}};
 };
+
+TEST_F(OptionsTest, AReaderCanNameEveryFieldAndListOfEveryPage) {
+    EXPECT_EQ(UnnamedControls(Open(0).hwnd()), std::vector<std::string>{});
+}
 
 TEST_F(OptionsTest, OpensAtItsPageAndChangesPagesByTabKeysAndHelp) {
     Open(2);

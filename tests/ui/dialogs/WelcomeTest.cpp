@@ -13,6 +13,7 @@
 #include "platform/Path.h"
 #include "platform/Text.h"
 #include "platform/registry/ScratchClasses.h"
+#include "support/ReaderNames.h"
 #include "ui/WindowText.h"
 #include "ui/controls/ctlLinkLabel.h"
 #include "ui/controls/ctlTabLabel.h"
@@ -105,6 +106,11 @@ class WelcomeTest : public ProgramFixture {
     ScratchClasses classes;
     frmWelcome wizard{WelcomeServices{index.Get(), prompter, options, help}};
 };
+
+TEST_F(WelcomeTest, AReaderCanNameTheListOfFileTypes) {
+    Open();
+    EXPECT_EQ(UnnamedControls(wizard.hwnd()), std::vector<std::string>{});
+}
 
 TEST_F(WelcomeTest, PagesGoInOrderWithTheirLinksShownAsThePageAllows) {
     Open();

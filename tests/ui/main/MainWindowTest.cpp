@@ -7,6 +7,7 @@
 #include "platform/OleDate.h"
 #include "platform/Path.h"
 #include "platform/Text.h"
+#include "support/ReaderNames.h"
 #include "ui/Dpi.h"
 #include "ui/FocusColors.h"
 #include "ui/Hourglass.h"
@@ -35,6 +36,11 @@ RECT ScreenRect(HWND window) {
 
 int Twips(int pixels, HWND window) {
     return PixelsToTwips(pixels, WindowDpi(window));
+}
+
+TEST_F(MainWindowTest, AReaderCanNameTheWordBox) {
+    Load();
+    EXPECT_EQ(UnnamedControls(Window()), std::vector<std::string>{});
 }
 
 TEST_F(MainWindowTest, LoadsHiddenWithTabsPanelsAndEveryText) {

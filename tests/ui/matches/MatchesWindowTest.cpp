@@ -16,6 +16,7 @@
 #include "platform/Text.h"
 #include "platform/registry/ScratchClasses.h"
 #include "support/Fakes.h"
+#include "support/ReaderNames.h"
 #include "support/TempFolder.h"
 #include "ui/Dpi.h"
 #include "ui/MessagePump.h"
@@ -142,6 +143,10 @@ class MatchesWindowTest : public ::testing::Test {
     std::unique_ptr<clsIndex> index_;
     int wordListRefreshes_ = 0;
 };
+
+TEST_F(MatchesWindowTest, AReaderCanNameTheList) {
+    EXPECT_EQ(UnnamedControls(Load()), std::vector<std::string>{});
+}
 
 TEST_F(MatchesWindowTest, ListsTheMatchesInCollectionOrderWithTheFirstSelected) {
     const HWND form = Load();
