@@ -130,18 +130,19 @@ class RecordingStore final : public SettingsStore {
 TEST(IndexOptionsTest, WritesTheKeysInOrderAndFormsAndLeavesStaleDrives) {
     RecordingStore store;
     store.values.Save("Index", "Drive2", "x:");
-    SaveIndexOptions({"2.5", ".TXT ", true, false, true, {"c:", "e:"}}, store);
-    EXPECT_EQ(store.writes,
-              (Names{"Index:Interval=2.5", "Index:Filter=.TXT ", "Index:FilterIsInclude=True",
-                     "Index:IncludeSystemFolders=0", "Index:IgnoreTempFolders=-1",
-                     "Index:Drive0=c:", "Index:Drive1=e:", "Index:DriveCount=2"}));
+    SaveIndexOptions({"2.5", ".TXT ", true, false, true, {"c:", "e:"}, true}, store);
+    EXPECT_EQ(store.writes, (Names{"Index:Interval=2.5", "Index:Filter=.TXT ",
+                                   "Index:FilterIsInclude=True", "Index:IncludeSystemFolders=0",
+                                   "Index:IgnoreTempFolders=-1", "Index:AllFolders=True",
+                                   "Index:Drive0=c:", "Index:Drive1=e:", "Index:DriveCount=2"}));
     EXPECT_EQ(store.Get("Index", "Drive2", ""), "x:");
 
     store.writes.clear();
     SaveIndexOptions({"24", "", false, true, false, {}}, store);
-    EXPECT_EQ(store.writes, (Names{"Index:Interval=24", "Index:Filter=",
-                                   "Index:FilterIsInclude=False", "Index:IncludeSystemFolders=-1",
-                                   "Index:IgnoreTempFolders=0", "Index:DriveCount=0"}));
+    EXPECT_EQ(store.writes,
+              (Names{"Index:Interval=24", "Index:Filter=", "Index:FilterIsInclude=False",
+                     "Index:IncludeSystemFolders=-1", "Index:IgnoreTempFolders=0",
+                     "Index:AllFolders=False", "Index:DriveCount=0"}));
 }
 
 TEST(NewWordModelTest, SplitsAtTheLastSeparatorBeforeTheFinalCharacter) {
