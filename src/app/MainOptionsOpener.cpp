@@ -20,15 +20,23 @@ OptionsServices MainOptionsOpener::Services() {
             &signIn_};
 }
 
-// A second click on a link brings the open dialog forward at the link's page.
 void MainOptionsOpener::ShowOptions(int panel) {
+    ShowModeless([panel](frmOptions& options) { options.Panel(panel); });
+}
+
+void MainOptionsOpener::ShowAllFoldersOption() {
+    ShowModeless([](frmOptions& options) { options.ShowAllFoldersOption(); });
+}
+
+// A second click on a link brings the open dialog forward at the link's page.
+void MainOptionsOpener::ShowModeless(const std::function<void(frmOptions&)>& choose) {
     if (open_ && open_->hwnd() != nullptr) {
-        open_->Panel(panel);
+        choose(*open_);
         SetForegroundWindow(open_->hwnd());
         return;
     }
     open_ = std::make_unique<frmOptions>(Services());
-    open_->Panel(panel);
+    choose(*open_);
     open_->ShowModeless(mainWindow_);
 }
 

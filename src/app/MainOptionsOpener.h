@@ -31,10 +31,13 @@ class MainOptionsOpener final : public OptionsOpener {
     void SetHotkeys(HotkeyTarget* hotkeys) { hotkeys_ = hotkeys; }
 
     void ShowOptions(int panel) override;
+    void ShowAllFoldersOption() override;
     void ShowOptionsModal(HWND owner, int panel) override;
 
   private:
     OptionsServices Services();
+    // The open dialog, or a new one shown modeless once `choose` has picked its page.
+    void ShowModeless(const std::function<void(frmOptions&)>& choose);
 
     LazyIndex& index_;
     SettingsStore& settings_;

@@ -53,6 +53,7 @@ void GeneralPage::Load(const clsIndex& index, const DriveSource& drives) {
     SetText(Interval(), std::to_string(index.UpdateInterval));
     SetChecked(Item(IDC_OPTIONS_SYSTEM), index.IncludeSystemFolders);
     SetChecked(Item(IDC_OPTIONS_IGNORE), index.IgnoreTempFolders);
+    SetChecked(Item(IDC_OPTIONS_ALLFOLDERS), index.AllFolders);
 
     entries_ = OfferedDriveEntries(drives.entries(), drives.typeOf);
     const HWND lstDrives = Item(IDC_OPTIONS_DRIVES);
@@ -109,11 +110,16 @@ void GeneralPage::Collect(IndexOptions& options) const {
     options.interval = WindowText(Interval());
     options.includeSystemFolders = Checked(Item(IDC_OPTIONS_SYSTEM));
     options.ignoreTempFolders = Checked(Item(IDC_OPTIONS_IGNORE));
+    options.allFolders = Checked(Item(IDC_OPTIONS_ALLFOLDERS));
     std::vector<bool> selected;
     for (size_t i = 0; i < entries_.size(); ++i) {
         selected.push_back(SendMessageW(Item(IDC_OPTIONS_DRIVES), LB_GETSEL, i, 0) > 0);
     }
     options.drives = SelectedDrives(entries_, selected);
+}
+
+HWND GeneralPage::AllFolders() const {
+    return Item(IDC_OPTIONS_ALLFOLDERS);
 }
 
 HWND GeneralPage::Interval() const {

@@ -35,6 +35,7 @@ class GeneralPage final : public OptionsPage {
     bool SignIn() const;
 
     HWND Interval() const;
+    HWND AllFolders() const;  // "Index every folder"
     // The interval box's text put right, as it is when the box loses the focus.
     void txtInterval_LostFocus();
 

@@ -16,6 +16,7 @@ void SaveIndexOptions(const IndexOptions& options, SettingsStore& store) {
     store.Save(kSection, "FilterIsInclude", options.filterIsInclude ? "True" : "False");
     store.Save(kSection, "IncludeSystemFolders", options.includeSystemFolders ? "-1" : "0");
     store.Save(kSection, "IgnoreTempFolders", options.ignoreTempFolders ? "-1" : "0");
+    store.Save(kSection, "AllFolders", options.allFolders ? "True" : "False");
     for (size_t n = 0; n < options.drives.size(); ++n) {
         store.Save(kSection, "Drive" + std::to_string(n), options.drives[n]);
     }

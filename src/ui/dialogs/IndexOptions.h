@@ -15,10 +15,12 @@ struct IndexOptions {
     bool includeSystemFolders = true;
     bool ignoreTempFolders = true;
     std::vector<std::string> drives;  // "c:", as SelectedDrives gives them
+    bool allFolders = false;
 };
 
 // Writes "Interval", "Filter", "FilterIsInclude" ("True"/"False"), "IncludeSystemFolders" and
-// "IgnoreTempFolders" ("-1"/"0"), then "Drive0".. and "DriveCount", in that order. "Drive" keys
+// "IgnoreTempFolders" ("-1"/"0"), "AllFolders" ("True"/"False"), then "Drive0".. and
+// "DriveCount", in that order. "Drive" keys
 // at and above the new count are left as they are. The caller checks the interval first with
 // IsReadableInterval; a failing write throws from the store, naming the setting.
 void SaveIndexOptions(const IndexOptions& options, SettingsStore& store);

@@ -41,6 +41,15 @@ void frmOptions::Panel(int page) {
     }
 }
 
+void frmOptions::ShowAllFoldersOption() {
+    Panel(0);
+    focusAllFolders_ = hwnd() == nullptr;
+    if (hwnd() != nullptr) {
+        SendMessageW(hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(generalPage_.AllFolders()),
+                     TRUE);
+    }
+}
+
 bool frmOptions::OnInit() {
     SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(services_.icon));
     TabStrip1 = Item(IDC_OPTIONS_TABS);
@@ -54,6 +63,11 @@ bool frmOptions::OnInit() {
     LayOutPages();
     Form_Load();
     Panel(currentPage_);
+    if (focusAllFolders_) {
+        SendMessageW(hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(generalPage_.AllFolders()),
+                     TRUE);
+        return false;
+    }
     return currentPage_ != 1;  // the File Types page puts the focus into its list
 }
 

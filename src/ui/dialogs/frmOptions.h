@@ -49,6 +49,8 @@ class frmOptions final : public Dialog {
     // is shown, it chooses the page it opens at.
     void Panel(int page);
     int CurrentPage() const { return currentPage_; }
+    // The General page with the focus on "Index every folder", now or when the dialog opens.
+    void ShowAllFoldersOption();
 
   protected:
     bool OnInit() override;
@@ -75,6 +77,7 @@ class frmOptions final : public Dialog {
     FileTypesPage fileTypesPage_;
     WordsPage wordsPage_;
     int currentPage_ = 0;
+    bool focusAllFolders_ = false;
 };
 
 }  // namespace quorin

@@ -18,6 +18,9 @@ std::span<const MainDesign::Control> MainDesign::Controls() {
         {&frmMain::lblLastUpdated, kIndexPanel, WC_STATICW, "", SS_NOPREFIX, kIdLastUpdated, {1800, 90, 3400, 225}},
         {&frmMain::lblUpdateInterval, kIndexPanel, WC_STATICW, "Index automatically updated every 1 day(s).", 0,
          kIdUpdateInterval, {120, 345, 5000, 225}},
+        // Right of "Update Index Now", the panel's one free line.
+        {&frmMain::lblIndexSummary, kIndexPanel, WC_STATICW, "", SS_LEFTNOWORDWRAP | SS_NOPREFIX, kIdIndexSummary,
+         {1800, 600, 3480, 225}},
         {&frmMain::lblShutdown, kExitPanel, WC_STATICW, "Please wait while Quorin shuts down...", SS_CENTER, -1,
          {0, 330, 5280, 225}},
         // The animation's whole frame (96 x 60 pixels at 96 DPI) and three lines of text fit at any DPI.
@@ -36,6 +39,7 @@ std::span<const MainDesign::Control> MainDesign::Controls() {
 std::span<const MainDesign::Link> MainDesign::Links() {
     static const Link kLinks[] = {
         {&frmMain::lnkUpdate, kIndexPanel, kIdUpdate, "Update Index Now", 120, 600},
+        {&frmMain::lnkFoldersLeftOut, kIndexPanel, kIdFoldersLeftOut, "", 1800, 600},
         {&frmMain::lnkGeneralOptions, kOptionsPanel, kIdGeneralOptions, "General Options", 120, 90},
         {&frmMain::lnkFileTypes, kOptionsPanel, kIdFileTypes, "Change file types that are indexed", 120, 345},
         {&frmMain::lnkWords, kOptionsPanel, kIdWords, "Add/delete assigned words", 120, 600},

@@ -15,6 +15,7 @@
 #include "ui/WindowClass.h"
 #include "ui/WindowText.h"
 #include "ui/main/GoCommand.h"
+#include "ui/main/IndexSummary.h"
 #include "ui/main/MainDesign.h"
 #include "ui/main/MainLayout.h"
 #include "ui/main/ReindexSchedule.h"
@@ -95,6 +96,7 @@ void frmMain::CreatePanelControls() {
     SetWindowPos(cboWord.hwnd(), lblEnterWord, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     ShowWindow(ProgressBar1, SW_HIDE);
+    ShowWindow(lnkFoldersLeftOut->hwnd(), SW_HIDE);
 }
 
 HWND frmMain::Control(int id) const {
@@ -181,6 +183,7 @@ void frmMain::SetCounter(std::string_view text) {
 
 void frmMain::EndIndexing() {
     SendMessageW(Animation1, ACM_OPENW, 0, 0);  // closes the file and stops playing
+    UpdateIndexPanel();  // the panel under the progress shows what the build indexed
     ShowWindow(picPanel.Panel(kProgressPanel), SW_HIDE);
     EnableTabs();
     services_.tray.ChangeIcon(hwnd(), icon_.get(), Tip());
@@ -280,6 +283,7 @@ void frmMain::OnCommand(int id, int code, HWND) {
         {kIdFileTypes,
          [](frmMain& form) { form.services_.options.ShowOptions(kOptionsFileTypes); }},
         {kIdWords, [](frmMain& form) { form.services_.options.ShowOptions(kOptionsWords); }},
+        {kIdFoldersLeftOut, [](frmMain& form) { form.services_.options.ShowAllFoldersOption(); }},
         {kIdHelp, [](frmMain& form) { form.services_.help.ShowTopic(kHelpUsingQuorin); }},
         // Until the program has a web site, its two web links open help topics that ship with it.
         {kIdQuorinPage, [](frmMain& form) { form.services_.help.ShowTopic(kHelpAboutQuorin); }},
@@ -433,6 +437,11 @@ void frmMain::UpdateIndexPanel() {
     SetText(lblLastUpdated, FormatLocalDateTime(index.LastUpdated));
     SetText(lblUpdateInterval, "The index is automatically updated every " +
                                    std::to_string(index.UpdateInterval) + " hour(s).");
+    const IndexSummary summary =
+        SummarizeIndex(index.FolderCount(), index.ItemCount(), index.FoldersLeftOut());
+    SetText(lblIndexSummary, summary.linksToAllFolders ? "" : summary.text);
+    lnkFoldersLeftOut->SetCaption(summary.linksToAllFolders ? summary.text : "");
+    ShowWindow(lnkFoldersLeftOut->hwnd(), summary.linksToAllFolders ? SW_SHOW : SW_HIDE);
 }
 
 void frmMain::cmdGo_Click() {

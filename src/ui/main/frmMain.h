@@ -60,6 +60,8 @@ enum MainControlId : int {
     kIdLastUpdated = 210,
     kIdUpdateInterval = 211,
     kIdUpdate = 212,
+    kIdIndexSummary = 213,
+    kIdFoldersLeftOut = 214,
     kIdGeneralOptions = 220,
     kIdFileTypes = 221,
     kIdWords = 222,
@@ -185,6 +187,9 @@ class frmMain final : public Window,
     HWND lblLastUpdated = nullptr;
     HWND lblUpdateInterval = nullptr;
     ctlLinkLabel* lnkUpdate = nullptr;
+    // What the index holds; with folders left out, the link to "Index every folder" instead.
+    HWND lblIndexSummary = nullptr;
+    ctlLinkLabel* lnkFoldersLeftOut = nullptr;
     ctlLinkLabel* lnkGeneralOptions = nullptr;
     ctlLinkLabel* lnkFileTypes = nullptr;
     ctlLinkLabel* lnkWords = nullptr;

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <stdexcept>
 #include <string>
@@ -8,12 +9,13 @@
 #include <vector>
 
 #include "platform/MemorySettingsStore.h"
+#include "platform/Path.h"
 #include "ui/dialogs/DialogTexts.h"
 #include "ui/dialogs/DriveChoice.h"
 #include "ui/dialogs/FileTypeLists.h"
 #include "ui/dialogs/IndexOptions.h"
 #include "ui/dialogs/IntervalText.h"
-#include "ui/dialogs/NewWordPath.h"
+#include "ui/dialogs/NewWordModel.h"
 
 namespace quorin {
 namespace {
@@ -128,21 +130,22 @@ class RecordingStore final : public SettingsStore {
 TEST(IndexOptionsTest, WritesTheKeysInOrderAndFormsAndLeavesStaleDrives) {
     RecordingStore store;
     store.values.Save("Index", "Drive2", "x:");
-    SaveIndexOptions({"2.5", ".TXT ", true, false, true, {"c:", "e:"}}, store);
-    EXPECT_EQ(store.writes,
-              (Names{"Index:Interval=2.5", "Index:Filter=.TXT ", "Index:FilterIsInclude=True",
-                     "Index:IncludeSystemFolders=0", "Index:IgnoreTempFolders=-1",
-                     "Index:Drive0=c:", "Index:Drive1=e:", "Index:DriveCount=2"}));
+    SaveIndexOptions({"2.5", ".TXT ", true, false, true, {"c:", "e:"}, true}, store);
+    EXPECT_EQ(store.writes, (Names{"Index:Interval=2.5", "Index:Filter=.TXT ",
+                                   "Index:FilterIsInclude=True", "Index:IncludeSystemFolders=0",
+                                   "Index:IgnoreTempFolders=-1", "Index:AllFolders=True",
+                                   "Index:Drive0=c:", "Index:Drive1=e:", "Index:DriveCount=2"}));
     EXPECT_EQ(store.Get("Index", "Drive2", ""), "x:");
 
     store.writes.clear();
     SaveIndexOptions({"24", "", false, true, false, {}}, store);
-    EXPECT_EQ(store.writes, (Names{"Index:Interval=24", "Index:Filter=",
-                                   "Index:FilterIsInclude=False", "Index:IncludeSystemFolders=-1",
-                                   "Index:IgnoreTempFolders=0", "Index:DriveCount=0"}));
+    EXPECT_EQ(store.writes,
+              (Names{"Index:Interval=24", "Index:Filter=", "Index:FilterIsInclude=False",
+                     "Index:IncludeSystemFolders=-1", "Index:IgnoreTempFolders=0",
+                     "Index:AllFolders=False", "Index:DriveCount=0"}));
 }
 
-TEST(NewWordPathTest, SplitsAtTheLastBackslashBeforeTheFinalCharacter) {
+TEST(NewWordModelTest, SplitsAtTheLastSeparatorBeforeTheFinalCharacter) {
     for (const auto& [path, folder, file] : {std::tuple{"C:\\DOCS\\a.txt", "C:\\DOCS", "a.txt"},
                                              {"C:\\DOCS\\*.TXT", "C:\\DOCS", "*.TXT"},
                                              {"C:\\DOCS\\sub\\", "C:\\DOCS", "sub\\"},
@@ -151,9 +154,14 @@ TEST(NewWordPathTest, SplitsAtTheLastBackslashBeforeTheFinalCharacter) {
                                              {"a.txt", "", ""},
                                              {"\\", "", ""},
                                              {"", "", ""}}) {
-        const FolderAndFile split = SplitAtLastBackslash(path);
-        EXPECT_EQ(split.folder, folder) << path;
-        EXPECT_EQ(split.fileName, file) << path;
+        // Written with "\\"; POSIX builds (quorin-cli) split at "/".
+        const auto native = [](std::string text) {
+            std::replace(text.begin(), text.end(), '\\', kPathSeparator);
+            return text;
+        };
+        const FolderAndFile split = SplitAtLastSeparator(native(path));
+        EXPECT_EQ(split.folder, native(folder)) << path;
+        EXPECT_EQ(split.fileName, native(file)) << path;
     }
 }
 

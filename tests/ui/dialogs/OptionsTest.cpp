@@ -186,6 +186,18 @@ TEST_F(OptionsTest, OpensAtItsPageAndChangesPagesByTabKeysAndHelp) {
     EXPECT_EQ(help.topics, (std::vector<int32_t>{100, 80, 90}));
 }
 
+TEST_F(OptionsTest, TheAllFoldersOptionOpensTheGeneralPageAtItsBoxOpenOrNot) {
+    dialog.ShowAllFoldersOption();
+    dialog.ShowModeless(nullptr);
+    SetForegroundWindow(dialog.hwnd());
+    EXPECT_EQ(dialog.CurrentPage(), 0);
+    EXPECT_EQ(GetFocus(), Control(IDC_OPTIONS_ALLFOLDERS));
+    dialog.Panel(2);
+    dialog.ShowAllFoldersOption();
+    EXPECT_EQ(dialog.CurrentPage(), 0);
+    EXPECT_EQ(GetFocus(), Control(IDC_OPTIONS_ALLFOLDERS));
+}
+
 TEST_F(OptionsTest, GeneralPageOffersFixedAndNetworkDrivesAndSelectsTheConfiguredOnes) {
     Open(0);
     const HWND drives = Control(IDC_OPTIONS_DRIVES);
@@ -212,6 +224,8 @@ TEST_F(OptionsTest, OkStoresTheIndexSettingsInTheirFormsAndTellsTheEngine) {
     SetText(Control(IDC_OPTIONS_INTERVAL), "1.5");
     Click(IDC_OPTIONS_IGNORE);
     SendMessageW(Control(IDC_OPTIONS_IGNORE), BM_SETCHECK, BST_UNCHECKED, 0);
+    EXPECT_FALSE(Ticked(IDC_OPTIONS_ALLFOLDERS));
+    Tick(IDC_OPTIONS_ALLFOLDERS);
     Click(IDOK);
     EXPECT_TRUE(prompter.boxes.empty());
     EXPECT_FALSE(IsWindow(dialog.hwnd()));
@@ -220,11 +234,13 @@ TEST_F(OptionsTest, OkStoresTheIndexSettingsInTheirFormsAndTellsTheEngine) {
     EXPECT_EQ(Setting("FilterIsInclude"), "True");
     EXPECT_EQ(Setting("IncludeSystemFolders"), "-1");
     EXPECT_EQ(Setting("IgnoreTempFolders"), "0");
+    EXPECT_EQ(Setting("AllFolders"), "True");
     EXPECT_EQ(Setting("Drive0"), "c:");
     EXPECT_EQ(Setting("Drive1"), "d:");
     EXPECT_EQ(Setting("DriveCount"), "2");
     EXPECT_EQ(Setting("Drive2"), "stale") << "higher keys are left alone";
     EXPECT_EQ(index.Get().UpdateInterval, 2) << "the engine read the settings again";
+    EXPECT_TRUE(index.Get().AllFolders);
     EXPECT_EQ(addWords, 0) << "no word changed";
 }
 

@@ -33,6 +33,7 @@ class FakeMatchesOpener final : public MatchesOpener {
 class FakeOptionsOpener final : public OptionsOpener {
   public:
     void ShowOptions(int panel) override { panels.push_back(panel); }
+    void ShowAllFoldersOption() override { panels.push_back(kAllFoldersOption); }
     void ShowOptionsModal(HWND owner, int panel) override {
         modalOwners.push_back(owner);
         panels.push_back(panel);
@@ -40,6 +41,7 @@ class FakeOptionsOpener final : public OptionsOpener {
             onModal();
         }
     }
+    static constexpr int kAllFoldersOption = -1;  // in panels
     std::vector<int> panels;
     std::vector<HWND> modalOwners;
     std::function<void()> onModal;  // what the user does in the dialog

@@ -1,9 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cstring>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "ui/main/IndexSummary.h"
 #include "ui/main/MainLayout.h"
 #include "ui/main/ReindexSchedule.h"
 #include "ui/main/TrayCallback.h"
@@ -11,6 +14,30 @@
 
 namespace quorin {
 namespace {
+
+TEST(IndexSummary, CountsAreGroupedAndFoldersLeftOutMakeALink) {
+    for (const auto& [count, text] : {std::pair{0, "0"},
+                                      {999, "999"},
+                                      {5001, "5,001"},
+                                      {1500000, "1,500,000"},
+                                      {INT32_MAX, "2,147,483,647"}}) {
+        EXPECT_EQ(GroupedNumber(count), text);
+    }
+    const struct {
+        std::optional<int32_t> leftOut;
+        std::string text;
+        bool link;
+    } cases[] = {
+        {std::nullopt, "5,001 folders and 48,210 files indexed.", false},
+        {0, "5,001 folders and 48,210 files indexed.", false},
+        {16015, "5,001 folders, 48,210 files; 16,015 left out", true},
+    };
+    for (const auto& [leftOut, text, link] : cases) {
+        const IndexSummary summary = SummarizeIndex(5001, 48210, leftOut);
+        EXPECT_EQ(summary.text, text);
+        EXPECT_EQ(summary.linksToAllFolders, link);
+    }
+}
 
 TEST(TrayRecord, HasTheClassicLayoutAndFields) {
     const TrayRecord record = MakeTrayRecord(0x1234, 0x5678, "Quorin");

@@ -270,6 +270,36 @@ TEST_F(MainWindowTest, TabReachesThePanelsLinksAndEnterOpensTheFocusedOne) {
     EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes, kOptionsWords}));
 }
 
+TEST_F(MainWindowTest, AfterABuildTheIndexPanelSaysWhatItHoldsAndLinksToAllFolders) {
+    // 21 roots naming one folder of 238 subfolders: 5,019 folders, 18 over the limit.
+    for (int i = 0; i < 238; ++i) {
+        tree.MakeFolder(std::to_string(i));
+    }
+    tree.WriteFile("a.txt", "");
+    settings.Save("Index", "DriveCount", "21");
+    for (int i = 0; i < 21; ++i) {
+        settings.Save("Index", "Drive" + std::to_string(i), tree.Path());
+    }
+    Load();
+    ClickTab(1);
+    Build();
+    // The window itself is hidden, so its children's own flag tells.
+    const auto linkShown = [this] {
+        return (GetWindowLongW(Control(kIdFoldersLeftOut), GWL_STYLE) & WS_VISIBLE) != 0;
+    };
+    EXPECT_EQ(Text(kIdIndexSummary), "");
+    EXPECT_EQ(Text(kIdFoldersLeftOut), "5,001 folders, 21 files; 18 left out");
+    EXPECT_TRUE(linkShown());
+    Command(kIdFoldersLeftOut);
+    EXPECT_EQ(options.panels, std::vector<int>{FakeOptionsOpener::kAllFoldersOption});
+
+    settings.Save("Index", "DriveCount", "1");
+    index.Get().UpdateSettings();
+    Build();
+    EXPECT_EQ(Text(kIdIndexSummary), "239 folders and 1 file indexed.");
+    EXPECT_FALSE(linkShown());
+}
+
 TEST_F(MainWindowTest, ABuildDisablesTabsShowsProgressOnTopAndRefusesToExit) {
     tree.WriteFile("docs/a.txt", "a");
     Load();
