@@ -12,7 +12,20 @@
 namespace quorin {
 namespace {
 
+// Every key of the section, spelled once for the reader and the writer.
 constexpr std::string_view kSection = "Index";
+constexpr std::string_view kInterval = "Interval";
+constexpr std::string_view kFilter = "Filter";
+constexpr std::string_view kFilterIsInclude = "FilterIsInclude";
+constexpr std::string_view kIncludeSystemFolders = "IncludeSystemFolders";
+constexpr std::string_view kIgnoreTempFolders = "IgnoreTempFolders";
+constexpr std::string_view kAllFolders = "AllFolders";
+constexpr std::string_view kDriveCount = "DriveCount";
+constexpr std::string_view kDrivePrefix = "Drive";
+
+std::string DriveKey(size_t slot) {
+    return std::string(kDrivePrefix) + std::to_string(slot);
+}
 
 std::string SettingName(std::string_view key) {
     return "The setting \"" + std::string(key) + "\" in section \"" + std::string(kSection) + "\"";
@@ -52,7 +65,7 @@ bool ReadBoolean(const SettingsStore& store, std::string_view key, std::string_v
 
 void ReadDrives(const SettingsStore& store, DriveTable& drives) {
     const int32_t count =
-        ConvertNumber("DriveCount", store.Get(kSection, "DriveCount", "0"), "the range", "");
+        ConvertNumber(kDriveCount, store.Get(kSection, kDriveCount, "0"), "the range", "");
     drives.slots.fill(std::string());
     if (count <= 0) {
         drives.slots[0] = DefaultRoot();
@@ -63,19 +76,19 @@ void ReadDrives(const SettingsStore& store, DriveTable& drives) {
     drives.count = std::min(count, kDriveSlots);
     for (int32_t slot = 0; slot < drives.count; ++slot) {
         drives.slots[static_cast<size_t>(slot)] =
-            store.Get(kSection, "Drive" + std::to_string(slot), "");
+            store.Get(kSection, DriveKey(static_cast<size_t>(slot)), "");
     }
     if (count > kDriveSlots) {
-        throw OutOfRangeError("The setting \"DriveCount\" in section \"Index\" asks for " +
-                              std::to_string(count) + " drives, but at most " +
-                              std::to_string(kDriveSlots) + " can be indexed.");
+        throw OutOfRangeError(SettingName(kDriveCount) + " asks for " + std::to_string(count) +
+                              " drives, but at most " + std::to_string(kDriveSlots) +
+                              " can be indexed.");
     }
 }
 
 }  // namespace
 
 int32_t ConvertInterval(const std::string& value) {
-    return ConvertNumber("Interval", value, "the interval's range", " hours");
+    return ConvertNumber(kInterval, value, "the interval's range", " hours");
 }
 
 bool IsReadableInterval(const std::string& value) {
@@ -90,13 +103,27 @@ bool IsReadableInterval(const std::string& value) {
 }
 
 void ReadIndexSettings(const SettingsStore& store, const IndexSettingsFields& fields) {
-    fields.updateInterval = ConvertInterval(store.Get(kSection, "Interval", "24"));
-    fields.filter = store.Get(kSection, "Filter", kDefaultFilter);
-    fields.filterIsInclude = ReadBoolean(store, "FilterIsInclude", "-1");
-    fields.includeSystemFolders = ReadBoolean(store, "IncludeSystemFolders", "-1");
-    fields.ignoreTempFolders = ReadBoolean(store, "IgnoreTempFolders", "-1");
-    fields.allFolders = ReadBoolean(store, "AllFolders", "False");
+    fields.updateInterval = ConvertInterval(store.Get(kSection, kInterval, "24"));
+    fields.filter = store.Get(kSection, kFilter, kDefaultFilter);
+    fields.filterIsInclude = ReadBoolean(store, kFilterIsInclude, "-1");
+    fields.includeSystemFolders = ReadBoolean(store, kIncludeSystemFolders, "-1");
+    fields.ignoreTempFolders = ReadBoolean(store, kIgnoreTempFolders, "-1");
+    fields.allFolders = ReadBoolean(store, kAllFolders, "False");
     ReadDrives(store, fields.drives);
+}
+
+// The two boolean forms differ on purpose; the reader takes both.
+void SaveIndexOptions(const IndexOptions& options, SettingsStore& store) {
+    store.Save(kSection, kInterval, options.interval);
+    store.Save(kSection, kFilter, options.filter);
+    store.Save(kSection, kFilterIsInclude, options.filterIsInclude ? "True" : "False");
+    store.Save(kSection, kIncludeSystemFolders, options.includeSystemFolders ? "-1" : "0");
+    store.Save(kSection, kIgnoreTempFolders, options.ignoreTempFolders ? "-1" : "0");
+    store.Save(kSection, kAllFolders, options.allFolders ? "True" : "False");
+    for (size_t n = 0; n < options.drives.size(); ++n) {
+        store.Save(kSection, DriveKey(n), options.drives[n]);
+    }
+    store.Save(kSection, kDriveCount, std::to_string(options.drives.size()));
 }
 
 }  // namespace quorin

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "index/DriveTable.h"
 #include "platform/SettingsStore.h"
@@ -32,9 +33,27 @@ int32_t ConvertInterval(const std::string& value);
 // would stop the next start.
 bool IsReadableInterval(const std::string& value);
 
+// What the Options dialog's OK stores in section "Index".
+struct IndexOptions {
+    std::string interval;  // the interval box's text as it stands
+    std::string filter;
+    bool filterIsInclude = true;
+    bool includeSystemFolders = true;
+    bool ignoreTempFolders = true;
+    std::vector<std::string> drives;  // "c:", as the drive list gives them
+    bool allFolders = false;
+};
+
 // Reads section "Index" key by key, straight into the fields: when a value is not of its kind
 // (TypeMismatchError) or there are more than 21 drives (OutOfRangeError), the fields read
 // before keep their new values and the later ones their old values.
 void ReadIndexSettings(const SettingsStore& store, const IndexSettingsFields& fields);
+
+// Writes "Interval", "Filter", "FilterIsInclude" ("True"/"False"), "IncludeSystemFolders" and
+// "IgnoreTempFolders" ("-1"/"0"), "AllFolders" ("True"/"False"), then "Drive0".. and
+// "DriveCount", in that order. "Drive" keys at and above the new count are left as they are. The
+// caller checks the interval first with IsReadableInterval; a failing write throws from the
+// store, naming the setting.
+void SaveIndexOptions(const IndexOptions& options, SettingsStore& store);
 
 }  // namespace quorin

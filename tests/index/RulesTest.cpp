@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "index/IndexSettings.h"
 #include "index/NameRules.h"
 #include "platform/Errors.h"
@@ -8,6 +11,8 @@
 
 namespace quorin {
 namespace {
+
+using Names = std::vector<std::string>;
 
 TEST(NameRulesTest, FilterTestsTheLastFourCharactersAsListed) {
     const std::string filter(kDefaultFilter);
@@ -117,6 +122,48 @@ TEST(IndexSettingsTest, BothWritersBooleansReadBackAndAMismatchKeepsEarlierField
     }
     EXPECT_EQ(message,
               "The setting \"Interval\" in section \"Index\" must be a number, not \"abc\".");
+}
+
+// The store's values, and every write in the order it came.
+class RecordingStore final : public SettingsStore {
+  public:
+    std::string Get(std::string_view section, std::string_view key,
+                    std::string_view defaultValue) const override {
+        return values.Get(section, key, defaultValue);
+    }
+    void Save(std::string_view section, std::string_view key, std::string_view value) override {
+        writes.push_back(std::string(section) + ":" + std::string(key) + "=" + std::string(value));
+        values.Save(section, key, value);
+    }
+
+    MemorySettingsStore values;
+    Names writes;
+};
+
+TEST(IndexSettingsTest, OptionsWriteTheKeysInOrderAndFormsAndReadBackAsWritten) {
+    RecordingStore store;
+    store.values.Save("Index", "Drive2", "x:");
+    SaveIndexOptions({"2.5", ".TXT ", true, false, true, {"c:", "e:"}, true}, store);
+    EXPECT_EQ(store.writes, (Names{"Index:Interval=2.5", "Index:Filter=.TXT ",
+                                   "Index:FilterIsInclude=True", "Index:IncludeSystemFolders=0",
+                                   "Index:IgnoreTempFolders=-1", "Index:AllFolders=True",
+                                   "Index:Drive0=c:", "Index:Drive1=e:", "Index:DriveCount=2"}));
+    EXPECT_EQ(store.Get("Index", "Drive2", ""), "x:");
+    SettingsFields fields;
+    fields.ReadFrom(store);
+    EXPECT_EQ(fields.updateInterval, 2);
+    EXPECT_EQ(fields.filter, ".TXT ");
+    EXPECT_TRUE(fields.filterIsInclude && fields.ignoreTempFolders && fields.allFolders);
+    EXPECT_FALSE(fields.includeSystemFolders);
+    EXPECT_EQ(fields.drives.count, 2);
+    EXPECT_EQ(fields.drives.slots[1], "e:");
+
+    store.writes.clear();
+    SaveIndexOptions({"24", "", false, true, false, {}}, store);
+    EXPECT_EQ(store.writes,
+              (Names{"Index:Interval=24", "Index:Filter=", "Index:FilterIsInclude=False",
+                     "Index:IncludeSystemFolders=-1", "Index:IgnoreTempFolders=0",
+                     "Index:AllFolders=False", "Index:DriveCount=0"}));
 }
 
 TEST(IndexSettingsTest, IntervalWithAFractionReadsAsTheNearestWholeNumber) {

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "index/IndexSettings.h"
 #include "ui/dialogs/DriveChoice.h"
-#include "ui/dialogs/IndexOptions.h"
 #include "ui/dialogs/OptionsPage.h"
 #include "ui/main/HotkeyTarget.h"
 

@@ -8,12 +8,10 @@
 #include <tuple>
 #include <vector>
 
-#include "platform/MemorySettingsStore.h"
 #include "platform/Path.h"
 #include "ui/dialogs/DialogTexts.h"
 #include "ui/dialogs/DriveChoice.h"
 #include "ui/dialogs/FileTypeLists.h"
-#include "ui/dialogs/IndexOptions.h"
 #include "ui/dialogs/IntervalText.h"
 #include "ui/dialogs/NewWordModel.h"
 
@@ -109,40 +107,6 @@ TEST(DriveChoiceTest, OffersFixedAndNetworkDrivesAndMatchesConfiguredOnesOnce) {
               (Marks{true, false}));
 
     EXPECT_EQ(SelectedDrives(offered, {true, false, true}), (Names{"c:", "z:"}));
-}
-
-// The store's values, and every write in the order it came.
-class RecordingStore final : public SettingsStore {
-  public:
-    std::string Get(std::string_view section, std::string_view key,
-                    std::string_view defaultValue) const override {
-        return values.Get(section, key, defaultValue);
-    }
-    void Save(std::string_view section, std::string_view key, std::string_view value) override {
-        writes.push_back(std::string(section) + ":" + std::string(key) + "=" + std::string(value));
-        values.Save(section, key, value);
-    }
-
-    MemorySettingsStore values;
-    Names writes;
-};
-
-TEST(IndexOptionsTest, WritesTheKeysInOrderAndFormsAndLeavesStaleDrives) {
-    RecordingStore store;
-    store.values.Save("Index", "Drive2", "x:");
-    SaveIndexOptions({"2.5", ".TXT ", true, false, true, {"c:", "e:"}, true}, store);
-    EXPECT_EQ(store.writes, (Names{"Index:Interval=2.5", "Index:Filter=.TXT ",
-                                   "Index:FilterIsInclude=True", "Index:IncludeSystemFolders=0",
-                                   "Index:IgnoreTempFolders=-1", "Index:AllFolders=True",
-                                   "Index:Drive0=c:", "Index:Drive1=e:", "Index:DriveCount=2"}));
-    EXPECT_EQ(store.Get("Index", "Drive2", ""), "x:");
-
-    store.writes.clear();
-    SaveIndexOptions({"24", "", false, true, false, {}}, store);
-    EXPECT_EQ(store.writes,
-              (Names{"Index:Interval=24", "Index:Filter=", "Index:FilterIsInclude=False",
-                     "Index:IncludeSystemFolders=-1", "Index:IgnoreTempFolders=0",
-                     "Index:AllFolders=False", "Index:DriveCount=0"}));
 }
 
 TEST(NewWordModelTest, SplitsAtTheLastSeparatorBeforeTheFinalCharacter) {
