@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include <stdexcept>
+#include <string>
 
 #include "ChildProcess.h"
 #include "platform/Path.h"
@@ -48,7 +49,8 @@ ProcessResult RunProgram(const std::string& program, const std::vector<std::stri
         PROCESS_INFORMATION info{};
         if (!CreateProcessW(Widen(program).c_str(), commandLine.data(), nullptr, nullptr, TRUE, 0,
                             nullptr, nullptr, &startup, &info)) {
-            throw std::runtime_error("Cannot run " + program);
+            throw std::runtime_error("Cannot run " + program + " (error " +
+                                     std::to_string(GetLastError()) + ")");
         }
         const UniqueKernelHandle process(info.hProcess);
         const UniqueKernelHandle thread(info.hThread);
