@@ -133,10 +133,11 @@ int Walk(const std::string& settingsPath) {
     WalkOptions options;
     int32_t interval = 0;
     DriveTable drives;
+    bool allFolders = false;
     ReadIndexSettings(settings, IndexSettingsFields{options.filter, options.filterIsInclude,
                                                     interval, options.includeSystemFolders,
-                                                    options.ignoreTempFolders, drives});
-    FolderTable folders;
+                                                    options.ignoreTempFolders, drives, allFolders});
+    FolderTable folders(allFolders);
     IndexItems items;
     for (int32_t drive = 0; drive < drives.count; ++drive) {
         folders.Append(drives.slots[static_cast<size_t>(drive)]);

@@ -37,9 +37,11 @@ void ReadAsEngine(const SettingsStore& store) {
     bool includeSystem = true;
     bool ignoreTemp = true;
     DriveTable drives;
+    bool allFolders = false;
     try {
-        ReadIndexSettings(store, IndexSettingsFields{filter, filterIsInclude, interval,
-                                                     includeSystem, ignoreTemp, drives});
+        ReadIndexSettings(
+            store, IndexSettingsFields{filter, filterIsInclude, interval, includeSystem, ignoreTemp,
+                                       drives, allFolders});
     } catch (const TypeMismatchError&) {
         return;
     } catch (const OutOfRangeError&) {

@@ -17,6 +17,7 @@
 #include "platform/IniSettingsStore.h"
 #include "platform/Path.h"
 #include "platform/TextFile.h"
+#include "ui/dialogs/NewWordModel.h"
 
 namespace quorin {
 namespace {
@@ -72,7 +73,44 @@ void ListWords(clsIndex& index, std::ostream& out) {
     }
 }
 
+// The refusals of Add New Word as quorin-cli words them.
+std::string RefusalText(NewWordFault fault, const CliRequest& request) {
+    switch (fault) {
+        case NewWordFault::NoWord:
+            return "The word to assign is blank.";
+        case NewWordFault::NoFile:
+            return "The file \"" + request.path + "\" does not exist.";
+        case NewWordFault::WordAssigned:
+            break;
+    }
+    return "The word \"" + request.word + "\" is already assigned to a file.";
+}
+
+// "words.txt" is saved whole only when the word passes every check.
+void AddWord(clsIndex& index, const CliRequest& request) {
+    if (const std::optional<NewWordFault> fault = CheckNewWord(index, request.word, request.path)) {
+        throw Error(RefusalText(*fault, request));
+    }
+    index.AddWord(NewWordItem(index, request.word, request.path));
+}
+
+void DeleteWord(clsIndex& index, const std::string& word) {
+    if (index.Words().Item(word) == nullptr) {
+        throw Error("The word \"" + word + "\" is not assigned to a file.");
+    }
+    index.Words().Remove(word);
+    index.SaveWords();
+}
+
 void Run(const CliRequest& request, std::ostream& out, std::ostream& err) {
+    if (request.command == CliCommand::Help) {
+        out << kHelp;
+        return;
+    }
+    if (request.command == CliCommand::Version) {
+        out << "quorin-cli " << QUORIN_CLI_VERSION << '\n';
+        return;
+    }
     const std::string folder = ProgramFolder(request);
     const std::unique_ptr<SettingsStore> settings = OpenSettings(request);
     const SystemClock clock;
@@ -88,6 +126,15 @@ void Run(const CliRequest& request, std::ostream& out, std::ostream& err) {
             break;
         case CliCommand::Words:
             ListWords(index, out);
+            break;
+        case CliCommand::WordsAdd:
+            AddWord(index, request);
+            break;
+        case CliCommand::WordsDelete:
+            DeleteWord(index, request.word);
+            break;
+        case CliCommand::Help:
+        case CliCommand::Version:
             break;
     }
 }

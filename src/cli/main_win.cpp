@@ -12,7 +12,9 @@ int wmain(int argc, wchar_t** argv) {
     SetConsoleOutputCP(CP_UTF8);
     std::vector<std::string> args;
     for (int i = 1; i < argc; ++i) {
-        args.push_back(quorin::Narrow(argv[i]));
+        // "/?" is how Windows programs are asked for their usage.
+        const std::string arg = quorin::Narrow(argv[i]);
+        args.push_back(arg == "/?" ? "--help" : arg);
     }
     return quorin::RunCli(args, std::cout, std::cerr);
 }

@@ -5,20 +5,25 @@
 
 namespace quorin {
 
-FolderTable::FolderTable() : paths_(kFolderSlots), upperPaths_(kFolderSlots) {}
+FolderTable::FolderTable(bool growable)
+    : paths_(kFolderSlots), upperPaths_(kFolderSlots), growable_(growable) {}
 
 const std::string& FolderTable::Path(int32_t slot) const {
-    if (slot < 0 || slot >= kFolderSlots) {
+    if (slot < 0 || slot >= Slots()) {
         throw OutOfRangeError("The folder number " + std::to_string(slot) +
                               " is outside the folder table, which holds folders 0 to " +
-                              std::to_string(kFolderSlots - 1) + ".");
+                              std::to_string(Slots() - 1) + ".");
     }
     return paths_[static_cast<size_t>(slot)];
 }
 
 bool FolderTable::Append(std::string_view path) {
-    if (count_ >= kFolderSlots) {
-        return false;
+    if (count_ == Slots()) {
+        if (!growable_) {
+            return false;
+        }
+        paths_.emplace_back();
+        upperPaths_.emplace_back();
     }
     const auto slot = static_cast<size_t>(count_++);
     paths_[slot] = path;

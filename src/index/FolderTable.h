@@ -10,18 +10,23 @@ namespace quorin {
 
 inline constexpr int32_t kFolderSlots = 5001;
 
-// The folders of the index by slot, 0 to 5000: the drive roots first, then every folder in the
-// order the walk found it. The table is fixed; clearing it keeps what the slots held.
+// The folders of the index by slot: the drive roots first, then every folder in the order the
+// walk found it. The fixed table has slots 0 to 5000; a growable one ("AllFolders") starts with
+// the same slots and adds one for every folder beyond them. Clearing keeps what the slots held.
 class FolderTable {
   public:
-    FolderTable();
+    explicit FolderTable(bool growable = false);
 
     int32_t Count() const { return count_; }
+    // 5001, or more once a growable table has grown.
+    int32_t Slots() const { return static_cast<int32_t>(paths_.size()); }
+    bool Growable() const { return growable_; }
 
-    // Throws OutOfRangeError outside 0..5000. A slot from Count() on holds what it last held.
+    // Throws OutOfRangeError outside 0..Slots()-1. A slot from Count() on holds what it last held.
     const std::string& Path(int32_t slot) const;
 
-    // Stores the path in slot Count(); false, storing nothing, when all 5001 slots are used.
+    // Stores the path in slot Count(); false, storing nothing, when a fixed table's 5001 slots
+    // are used.
     bool Append(std::string_view path);
 
     void Clear() { count_ = 0; }
@@ -33,6 +38,7 @@ class FolderTable {
     std::vector<std::string> paths_;
     std::vector<std::string> upperPaths_;
     int32_t count_ = 0;
+    bool growable_ = false;
 };
 
 }  // namespace quorin

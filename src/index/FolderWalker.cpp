@@ -12,7 +12,8 @@ FolderWalker::FolderWalker(WalkOptions options, FolderTable& folders, IndexItems
     : options_(std::move(options)), folders_(folders), items_(items) {}
 
 void FolderWalker::Walk(int32_t slot) {
-    const std::string& folder = folders_.Path(slot);
+    // A copy, since a growable table moves its paths when it grows.
+    const std::string folder = folders_.Path(slot);
     ListFolder(folder, options_.includeSystemFolders, [&](std::string_view name, bool isFolder) {
         if (isFolder) {
             AddFolder(folder, name);
@@ -26,7 +27,9 @@ void FolderWalker::AddFolder(const std::string& parent, std::string_view name) {
     if (name == "." || name == ".." || (options_.ignoreTempFolders && IsTempFolderName(name))) {
         return;
     }
-    folders_.Append(JoinPath(parent, name));
+    if (!folders_.Append(JoinPath(parent, name))) {
+        ++foldersLeftOut_;
+    }
 }
 
 }  // namespace quorin

@@ -23,8 +23,12 @@ class FolderWalker {
   public:
     FolderWalker(WalkOptions options, FolderTable& folders, IndexItems& items);
 
-    // An unreadable folder adds nothing; subfolders beyond the table's last slot are left out.
+    // An unreadable folder adds nothing; subfolders beyond a fixed table's last slot are left
+    // out and counted.
     void Walk(int32_t slot);
+
+    // The folders left out so far, which were thus not walked either.
+    int32_t FoldersLeftOut() const { return foldersLeftOut_; }
 
   private:
     void AddFolder(const std::string& parent, std::string_view name);
@@ -32,6 +36,7 @@ class FolderWalker {
     WalkOptions options_;
     FolderTable& folders_;
     IndexItems& items_;
+    int32_t foldersLeftOut_ = 0;
 };
 
 }  // namespace quorin

@@ -1,6 +1,7 @@
 #include "index/IndexFile.h"
 
 #include <charconv>
+#include <cstdint>
 #include <system_error>
 
 #include "platform/Errors.h"
@@ -34,7 +35,9 @@ bool ReadFolders(TextFileReader& reader, std::string_view& line, FolderTable& fo
     if (!reader.ReadLine(line)) {
         return false;
     }
-    const std::optional<int32_t> count = ParseInRange(line, kFolderSlots);
+    // More folder lines than a fixed table holds is damage; a growable table takes any count.
+    const std::optional<int32_t> count =
+        ParseInRange(line, folders.Growable() ? INT32_MAX : kFolderSlots);
     if (!count) {
         return false;
     }
@@ -49,9 +52,10 @@ bool ReadFolders(TextFileReader& reader, std::string_view& line, FolderTable& fo
 }
 
 // Records run to the end of the file; a number line without its name line is a fault.
-bool ReadRecords(TextFileReader& reader, std::string_view& line, IndexItems& items) {
+bool ReadRecords(TextFileReader& reader, std::string_view& line, int32_t folderSlots,
+                 IndexItems& items) {
     while (reader.ReadLine(line)) {
-        const std::optional<int32_t> directory = ParseInRange(line, kFolderSlots - 1);
+        const std::optional<int32_t> directory = ParseInRange(line, folderSlots - 1);
         if (!directory || !reader.ReadLine(line)) {
             return false;
         }
@@ -67,7 +71,8 @@ std::optional<double> ReadLines(TextFileReader& reader, FolderTable& folders, In
         return std::nullopt;
     }
     const std::optional<double> date = ParseIndexDate(line);
-    if (!date || !ReadFolders(reader, line, folders) || !ReadRecords(reader, line, items)) {
+    if (!date || !ReadFolders(reader, line, folders) ||
+        !ReadRecords(reader, line, folders.Slots(), items)) {
         return std::nullopt;
     }
     return date;

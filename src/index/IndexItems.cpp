@@ -8,7 +8,6 @@
 #include <emmintrin.h>
 #endif
 
-#include "index/FolderTable.h"
 #include "index/SubstringSearcher.h"
 #include "platform/Errors.h"
 #include "platform/Text.h"
@@ -56,7 +55,7 @@ void IndexItems::ReserveForFile(uintmax_t fileBytes) {
 }
 
 void IndexItems::Add(std::string_view filename, int32_t directory) {
-    if (directory < 0 || directory >= kFolderSlots) {
+    if (directory < 0) {
         throw OutOfRangeError("The folder number " + std::to_string(directory) +
                               " is outside the folder table.");
     }
@@ -65,7 +64,7 @@ void IndexItems::Add(std::string_view filename, int32_t directory) {
         AddOther(filename);
     }
     upperNames_.push_back(kNameEnd);
-    directories_.push_back(static_cast<uint16_t>(directory));
+    directories_.push_back(directory);
 }
 
 // Upper-cases the name 16 bytes at a time and notes which were lower-case letters; false,

@@ -22,7 +22,7 @@ class IndexItems {
     // Sizes the buffers for a file of that many bytes, so that loading it never reallocates them.
     void ReserveForFile(uintmax_t fileBytes);
 
-    // Throws OutOfRangeError for a directory outside the folder table.
+    // Throws OutOfRangeError for a negative directory; the folder table checks the others.
     void Add(std::string_view filename, int32_t directory);
 
     int32_t Count() const { return static_cast<int32_t>(directories_.size()); }
@@ -59,7 +59,7 @@ class IndexItems {
     std::string otherNames_;           // the names that are not ASCII, as they are
     std::vector<OtherName> others_;    // in record order
     std::vector<uint32_t> slotStarts_;
-    std::vector<uint16_t> directories_;  // folder table slots, 0 to 5000
+    std::vector<int32_t> directories_;  // folder table slots, beyond 5000 with "AllFolders"
 };
 
 }  // namespace quorin

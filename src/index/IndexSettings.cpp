@@ -33,8 +33,8 @@ int32_t ReadNumber(const SettingsStore& store, std::string_view key, std::string
     return *number;
 }
 
-bool ReadBoolean(const SettingsStore& store, std::string_view key) {
-    const std::string value = store.Get(kSection, key, "-1");
+bool ReadBoolean(const SettingsStore& store, std::string_view key, std::string_view fallback) {
+    const std::string value = store.Get(kSection, key, fallback);
     const std::optional<bool> flag = ParseLenientBoolean(value);
     if (!flag) {
         ThrowMismatch(key, "True, False or a number", value);
@@ -94,9 +94,10 @@ bool IsReadableInterval(const std::string& value) {
 void ReadIndexSettings(const SettingsStore& store, const IndexSettingsFields& fields) {
     fields.updateInterval = ConvertInterval(store.Get(kSection, "Interval", "24"));
     fields.filter = store.Get(kSection, "Filter", kDefaultFilter);
-    fields.filterIsInclude = ReadBoolean(store, "FilterIsInclude");
-    fields.includeSystemFolders = ReadBoolean(store, "IncludeSystemFolders");
-    fields.ignoreTempFolders = ReadBoolean(store, "IgnoreTempFolders");
+    fields.filterIsInclude = ReadBoolean(store, "FilterIsInclude", "-1");
+    fields.includeSystemFolders = ReadBoolean(store, "IncludeSystemFolders", "-1");
+    fields.ignoreTempFolders = ReadBoolean(store, "IgnoreTempFolders", "-1");
+    fields.allFolders = ReadBoolean(store, "AllFolders", "False");
     ReadDrives(store, fields.drives);
 }
 

@@ -20,6 +20,7 @@ struct IndexSettingsFields {
     bool& includeSystemFolders;
     bool& ignoreTempFolders;
     DriveTable& drives;
+    bool& allFolders;
 };
 
 // "Interval" as the engine reads it: a number with a fraction gives the nearest whole number,

@@ -51,10 +51,10 @@ void clsIndex::CreateIndex(bool Silent, ProgressWindow& ParentForm) {
         // The walk fills tables of its own and the engine takes them only when it completes:
         // while the build yields, every folder number handed out before (the words', a list of
         // matches') still means its folder, so a word saved then is written with its real one.
-        FolderTable folders;
+        FolderTable folders(AllFolders);
         auto items = std::make_shared<IndexItems>();
-        if (WalkDrives(Silent, ParentForm, folders, *items)) {
-            SaveIndex(ParentForm, std::move(folders), std::move(items));
+        if (const auto foldersLeftOut = WalkDrives(Silent, ParentForm, folders, *items)) {
+            SaveIndex(ParentForm, std::move(folders), std::move(items), *foldersLeftOut);
         } else {
             ReportCancel();
         }
@@ -65,8 +65,8 @@ void clsIndex::CreateIndex(bool Silent, ProgressWindow& ParentForm) {
     ParentForm.EndIndexing();
 }
 
-bool clsIndex::WalkDrives(bool Silent, ProgressWindow& ParentForm, FolderTable& folders,
-                          IndexItems& items) {
+std::optional<int32_t> clsIndex::WalkDrives(bool Silent, ProgressWindow& ParentForm,
+                                            FolderTable& folders, IndexItems& items) {
     for (int32_t drive = 0; drive < drives_.count; ++drive) {
         folders.Append(drives_.slots[static_cast<size_t>(drive)]);
     }
@@ -82,14 +82,14 @@ bool clsIndex::WalkDrives(bool Silent, ProgressWindow& ParentForm, FolderTable& 
             services_.events.DoEvents();
         }
         if (cancelled_) {
-            return false;
+            return std::nullopt;
         }
     }
-    return true;
+    return walker.FoldersLeftOut();
 }
 
 void clsIndex::SaveIndex(ProgressWindow& ParentForm, FolderTable folders,
-                         std::shared_ptr<IndexItems> items) {
+                         std::shared_ptr<IndexItems> items, int32_t foldersLeftOut) {
     ParentForm.SetCounter("Saving...");
     services_.events.DoEvents();
     const double now = services_.clock.Now();
@@ -97,6 +97,7 @@ void clsIndex::SaveIndex(ProgressWindow& ParentForm, FolderTable folders,
     // A new collection, so that lists of matches from the old index stay whole.
     folders_ = std::move(folders);
     items_ = std::move(items);
+    foldersLeftOut_ = foldersLeftOut;
     LastUpdated = now;
     // The assignments' folder numbers point into the table that has just changed; "words.txt"
     // holds their folders as paths.
@@ -114,6 +115,7 @@ void clsIndex::ReportCancel() {
 
 void clsIndex::ReadIndex() {
     items_ = std::make_shared<IndexItems>();
+    folders_ = FolderTable(AllFolders);
     const std::string path = ProgramFile(kIndexFile);
     if (FileExists(path)) {
         LastUpdated = ReadIndexFile(path, folders_, *items_).value_or(0);
@@ -164,9 +166,10 @@ void clsIndex::LoadWords() {
 }
 
 void clsIndex::UpdateSettings() {
-    ReadIndexSettings(services_.settings,
-                      IndexSettingsFields{Filter, FilterIsInclude, UpdateInterval,
-                                          IncludeSystemFolders, IgnoreTempFolders, drives_});
+    ReadIndexSettings(
+        services_.settings,
+        IndexSettingsFields{Filter, FilterIsInclude, UpdateInterval, IncludeSystemFolders,
+                            IgnoreTempFolders, drives_, AllFolders});
 }
 
 std::string clsIndex::ProgramFile(std::string_view name) const {

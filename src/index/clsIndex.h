@@ -44,6 +44,7 @@ class clsIndex {
     int32_t UpdateInterval = 24;  // hours
     bool IncludeSystemFolders = true;
     bool IgnoreTempFolders = true;
+    bool AllFolders = false;  // the folder table grows past 5001 slots
 
     // The collection itself; callers remove words from it and then call SaveWords.
     clsItems& Words() { return words_; }
@@ -52,6 +53,9 @@ class clsIndex {
     bool Indexing() const { return indexing_; }
     int32_t FolderCount() const { return folders_.Count(); }
     int32_t ItemCount() const { return items_->Count(); }
+    // The folders the 5001-slot table left out of the last build; nothing until a build of
+    // this session completes, since "index.txt" does not record it.
+    std::optional<int32_t> FoldersLeftOut() const { return foldersLeftOut_; }
 
     // Rebuilds the index, yielding to events as it goes. Returns at once while a build runs.
     void CreateIndex(bool Silent, ProgressWindow& ParentForm);
@@ -61,7 +65,7 @@ class clsIndex {
     // The records whose names contain Word, without regard to case; nothing when none do.
     std::optional<MatchList> FindMatch(std::string_view Word,
                                        SearchProgress* progress = nullptr) const;
-    // Throws OutOfRangeError outside 0..5000.
+    // Throws OutOfRangeError outside the folder table's slots (0..5000 unless AllFolders).
     std::string GetPath(int32_t DirectoryID) const;
     std::optional<int32_t> GetDirectory(std::string_view Path) const;
 
@@ -72,11 +76,11 @@ class clsIndex {
     void UpdateSettings();
 
   private:
-    // False when cancelled.
-    bool WalkDrives(bool Silent, ProgressWindow& ParentForm, FolderTable& folders,
-                    IndexItems& items);
+    // The number of folders left out; nothing when cancelled.
+    std::optional<int32_t> WalkDrives(bool Silent, ProgressWindow& ParentForm, FolderTable& folders,
+                                      IndexItems& items);
     void SaveIndex(ProgressWindow& ParentForm, FolderTable folders,
-                   std::shared_ptr<IndexItems> items);
+                   std::shared_ptr<IndexItems> items, int32_t foldersLeftOut);
     void ReportCancel();
     void ReadIndex();
     std::string ProgramFile(std::string_view name) const;
@@ -86,6 +90,7 @@ class clsIndex {
     FolderTable folders_;
     std::shared_ptr<IndexItems> items_ = std::make_shared<IndexItems>();
     clsItems words_;
+    std::optional<int32_t> foldersLeftOut_;
     bool indexing_ = false;
     bool cancelled_ = false;
 };

@@ -4,13 +4,15 @@
 
 #include "ChildProcess.h"
 #include "platform/Path.h"
+#include "platform/TextFile.h"
 #include "support/TempFolder.h"
 
 namespace quorin {
 namespace {
 
 const std::string kUsageLine =
-    "usage: quorin-cli [--folder DIR] [--settings FILE] build | find WORD | words\n";
+    "usage: quorin-cli [--folder DIR] [--settings FILE] build | find WORD | words [add WORD PATH | "
+    "delete WORD]\n";
 
 class CliProgramTest : public ::testing::Test {
   protected:
@@ -55,24 +57,74 @@ TEST_F(CliProgramTest, BuildsFindsAndListsWords) {
     EXPECT_EQ(Run({"words"}).out, "coffee\t" + cafe + "\n");
 }
 
-TEST_F(CliProgramTest, FailuresAreOneSentenceAndExitCodeOne) {
-    const std::string words = folders_.WriteFile("program/words.txt", "a\r\nb\r\n");
+TEST_F(CliProgramTest, HelpVersionAndWordsAddAndDelete) {
+    std::vector<std::vector<std::string>> helps = {{"--help"}, {"build", "-h"}};
+#ifdef _WIN32
+    helps.push_back({"/?"});
+#endif
+    for (const auto& help : helps) {
+        const ProcessResult result = Run(help, false);
+        EXPECT_EQ(result.exitCode, 0);
+        EXPECT_TRUE(result.out.starts_with("usage: quorin-cli")) << result.out;
+        for (const char* item : {"build", "find WORD", "words add WORD PATH", "words delete WORD",
+                                 "--folder DIR", "--settings FILE", "--version"}) {
+            EXPECT_NE(result.out.find(item), std::string::npos) << item;
+        }
+    }
+    const ProcessResult version = Run({"--version"}, false);
+    EXPECT_EQ(version.exitCode, 0);
+    EXPECT_TRUE(std::regex_match(version.out, std::regex("quorin-cli \\d+\\.\\d+\\.\\d+\n")))
+        << version.out;
+
+    const std::string notes = folders_.WriteFile("tree/notes.txt", "");
+    EXPECT_EQ(Run({"build"}).exitCode, 0);
+    EXPECT_EQ(Run({"words", "add", "Notes", notes}).exitCode, 0);
+    EXPECT_EQ(Run({"words"}).out, "Notes\t" + notes + "\n");
+    EXPECT_EQ(Run({"words", "delete", "NOTES"}).exitCode, 0);
+    EXPECT_EQ(Run({"words"}).out, "");
+}
+
+TEST_F(CliProgramTest, EveryRefusalIsOneSentenceExitCodeOneAndWordsTxtUnchanged) {
+    const std::string notes = folders_.WriteFile("tree/notes.txt", "");
+    const std::string assigned = "Notes\r\n" + root_ + "\r\nnotes.txt\r\n";
+    const std::string damaged = "a\r\nb\r\n";
+    const std::string words = JoinPath(program_, "words.txt");
     const std::string missing = JoinPath(folders_.Path(), "missing");
     const struct {
-        ProcessResult result;
+        std::string wordsTxt;
+        std::vector<std::string> args;
         std::string err;
     } cases[] = {
-        {Run({"words"}), "The file \"" + words +
-                             "\" ends in the middle of an assignment: its line count must be a "
-                             "multiple of three.\n"},
-        {Run({"--folder", missing, "build"}, false),
+        {damaged,
+         {"words"},
+         "The file \"" + words +
+             "\" ends in the middle of an assignment: its line count must be a multiple of "
+             "three.\n"},
+        {assigned,
+         {"--folder", missing, "build"},
          "The program folder \"" + missing + "\" does not exist.\n"},
-        {Run({"rebuild"}), "Unknown command \"rebuild\".\n" + kUsageLine},
+        {assigned, {"rebuild"}, "Unknown command \"rebuild\".\n" + kUsageLine},
+        {assigned,
+         {"words", "add", "x"},
+         "The command \"words add\" needs the path of its file.\n" + kUsageLine},
+        {assigned, {"words", "add", "  ", notes}, "The word to assign is blank.\n"},
+        {assigned,
+         {"words", "add", "x", missing},
+         "The file \"" + missing + "\" does not exist.\n"},
+        {assigned, {"words", "add", "x", root_}, "The file \"" + root_ + "\" does not exist.\n"},
+        {assigned,
+         {"words", "add", "NOTES", notes},
+         "The word \"NOTES\" is already assigned to a file.\n"},
+        {assigned, {"words", "delete", "note"}, "The word \"note\" is not assigned to a file.\n"},
     };
-    for (const auto& [result, err] : cases) {
+    for (const auto& [wordsTxt, args, err] : cases) {
+        folders_.WriteFile("program/words.txt", wordsTxt);
+        const bool withFolders = args[0] != "--folder";
+        const ProcessResult result = Run(args, withFolders);
         EXPECT_EQ(result.exitCode, 1) << err;
         EXPECT_EQ(result.err, err);
         EXPECT_EQ(result.out, "");
+        EXPECT_EQ(ReadWholeFile(words), wordsTxt) << err;
     }
 }
 

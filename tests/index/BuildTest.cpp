@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <functional>
+#include <map>
+#include <sstream>
 
 #include "index/clsIndex.h"
 #include "platform/Errors.h"
@@ -146,22 +148,86 @@ TEST_F(EngineTest, HiddenEntriesAreNeverIndexedAndSystemOnesOnlyWhenAsked) {
     EXPECT_EQ(Matches(*index, "shown").size(), 1u);
 }
 
-TEST_F(EngineTest, FolderTableCapLeavesOutTheSurplusAndItsFiles) {
+TEST_F(EngineTest, FolderTableCapLeavesOutTheSurplusAndItsFilesUnlessAllFolders) {
     // 21 roots naming one folder reach the cap without creating thousands of folders.
     for (int i = 0; i < 240; ++i) {
         tree.WriteFile("r/d" + std::to_string(i) + "/f.txt", "");
     }
     UseRoots(Paths(kDriveSlots, "r"));
-    auto index = MakeIndex();
-    index->CreateIndex(false, ui);
-    // One file in each stored subfolder; the 60 left out are not walked.
-    EXPECT_EQ(index->FolderCount(), kFolderSlots);
-    EXPECT_EQ(index->ItemCount(), kFolderSlots - kDriveSlots);
+    const int32_t subfolders = 240 * kDriveSlots;
+    const struct {
+        const char* allFolders;
+        int32_t folders;
+        int32_t leftOut;
+    } cases[] = {
+        {nullptr, kFolderSlots, subfolders - (kFolderSlots - kDriveSlots)},
+        {"True", kDriveSlots + subfolders, 0},
+    };
+    for (const auto& [allFolders, folders, leftOut] : cases) {
+        if (allFolders) {
+            settings.Save("Index", "AllFolders", allFolders);
+        }
+        auto index = MakeIndex();
+        index->CreateIndex(false, ui);
+        // One file in each stored subfolder; those left out are not walked.
+        EXPECT_EQ(index->FolderCount(), folders);
+        EXPECT_EQ(index->ItemCount(), folders - kDriveSlots);
+        EXPECT_EQ(index->FoldersLeftOut(), leftOut);
 
-    const auto reloaded = MakeIndex();
-    EXPECT_EQ(reloaded->FolderCount(), kFolderSlots);
-    EXPECT_EQ(reloaded->ItemCount(), kFolderSlots - kDriveSlots);
-    EXPECT_EQ(reloaded->LastUpdated, clock.now);
+        const auto reloaded = MakeIndex();
+        EXPECT_EQ(reloaded->FolderCount(), folders);
+        EXPECT_EQ(reloaded->ItemCount(), folders - kDriveSlots);
+        EXPECT_EQ(reloaded->LastUpdated, clock.now);
+        EXPECT_EQ(reloaded->FoldersLeftOut(), std::nullopt);  // "index.txt" does not say
+    }
+}
+
+// "index.txt" as the 5001-slot table would have saved it: the folder lines and the records of
+// the first 5001 slots.
+std::string CutAtTheFolderLimit(const std::string& text) {
+    std::istringstream lines(text);
+    std::string line;
+    std::string cut;
+    std::getline(lines, line);
+    cut += line + "\n";
+    std::getline(lines, line);
+    const int32_t folders = std::stoi(line);
+    cut += " " + std::to_string(std::min(folders, kFolderSlots)) + "\r\n";
+    for (int32_t slot = 0; slot < folders && std::getline(lines, line); ++slot) {
+        cut += slot < kFolderSlots ? line + "\n" : "";
+    }
+    std::string name;
+    while (std::getline(lines, line) && std::getline(lines, name)) {
+        cut += std::stoi(line) < kFolderSlots ? line + "\n" + name + "\n" : "";
+    }
+    return cut;
+}
+
+TEST_F(EngineTest, AllFoldersIndexesAWindowsShapedDriveAndTheDefaultStaysAsItWas) {
+    // The breadth-first walk fills the 5001 slots in WinSxS before any folder four levels down.
+    for (int i = 0; i < 5100; ++i) {
+        tree.MakeFolder("c/Windows/WinSxS/amd64_" + std::to_string(i));
+    }
+    tree.WriteFile("c/Program Files/Vendor/App/bin/app.exe", "");
+    tree.WriteFile("c/Users/me/Documents/Projects/plan.txt", "");
+    UseRoots({"c"});
+    std::map<std::string, std::string> saved;
+    for (const char* allFolders : {"", "False", "True"}) {
+        if (*allFolders) {
+            settings.Save("Index", "AllFolders", allFolders);
+        }
+        MakeIndex()->CreateIndex(true, ui);
+        saved[allFolders] = ReadWholeFile(ProgramFile("index.txt"));
+    }
+    EXPECT_EQ(saved["False"], saved[""]);
+    EXPECT_EQ(saved["False"], CutAtTheFolderLimit(saved["True"]));
+
+    const auto all = MakeIndex();
+    EXPECT_EQ(all->FolderCount(), 5100 + 11);  // every folder of the tree
+    EXPECT_EQ(Matches(*all, "app.exe"), Paths{TreePath("c/Program Files/Vendor/App/bin/app.exe")});
+    EXPECT_EQ(Matches(*all, "plan").size(), 1u);
+    settings.Save("Index", "AllFolders", "False");
+    EXPECT_EQ(MakeIndex()->LastUpdated, 0);  // more folder lines than 5001 slots is damage
 }
 
 TEST_F(EngineTest, CounterShowsEveryFolderWhenSilentAndEveryFifthOtherwise) {

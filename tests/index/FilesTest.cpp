@@ -78,6 +78,21 @@ TEST(IndexFileTest, EveryFaultClearsDateAndFoldersButKeepsTheRecordsBeforeIt) {
     }
 }
 
+TEST(IndexFileTest, AGrowableTableTakesAnyFolderCountAndRecordsInIt) {
+    std::string text = kDate + "\r\n 5003\r\n";
+    for (int i = 0; i < 5003; ++i) {
+        text += "C:\\" + std::to_string(i) + "\r\n";
+    }
+    text += " 5002\r\nlast.txt\r\n";
+    TempFolder folder;
+    FolderTable folders(true);
+    IndexItems items;
+    EXPECT_TRUE(ReadIndexFile(folder.WriteFile("index.txt", text), folders, items));
+    EXPECT_EQ(folders.Path(items.Directory(1)), "C:\\5002");
+    EXPECT_THROW(folders.Path(5003), OutOfRangeError);
+    EXPECT_EQ(FormatIndexFile(*ParseIndexDate(kDate), folders, items), text);
+}
+
 TEST(WordsFileTest, RoundTripAndTheRecordsBeforeAShortOne) {
     TempFolder folder;
     const std::string path = folder.WriteFile(

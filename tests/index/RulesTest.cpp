@@ -40,10 +40,11 @@ struct SettingsFields {
     bool includeSystemFolders = false;
     bool ignoreTempFolders = false;
     DriveTable drives;
+    bool allFolders = true;
 
     void ReadFrom(const SettingsStore& store) {
         ReadIndexSettings(store, {filter, filterIsInclude, updateInterval, includeSystemFolders,
-                                  ignoreTempFolders, drives});
+                                  ignoreTempFolders, drives, allFolders});
     }
 };
 
@@ -53,6 +54,7 @@ TEST(IndexSettingsTest, EmptyStoreGivesTheDefaults) {
     EXPECT_EQ(fields.updateInterval, 24);
     EXPECT_EQ(fields.filter, ".DOC .XLS .HTM .HTML .TXT .URL .ZIP .EXE .COM .BMP .GIF .JPG .WAV ");
     EXPECT_TRUE(fields.filterIsInclude && fields.includeSystemFolders && fields.ignoreTempFolders);
+    EXPECT_FALSE(fields.allFolders);
     EXPECT_EQ(fields.drives.count, 1);
     EXPECT_EQ(fields.drives.slots[0], DefaultRoot());
 }
@@ -85,8 +87,10 @@ TEST(IndexSettingsTest, BothWritersBooleansReadBackAndAMismatchKeepsEarlierField
     for (const auto& [text, expected] :
          {std::pair{"False", false}, {"0", false}, {"True", true}, {"-1", true}}) {
         store.Save("Index", "FilterIsInclude", text);
+        store.Save("Index", "AllFolders", text);
         fields.ReadFrom(store);
         EXPECT_EQ(fields.filterIsInclude, expected) << text;
+        EXPECT_EQ(fields.allFolders, expected) << text;
     }
     store.Save("Index", "Interval", "12");
     store.Save("Index", "Filter", ".TXT ");

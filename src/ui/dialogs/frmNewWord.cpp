@@ -2,14 +2,12 @@
 
 #include "NewWordDialog.h"
 #include "index/clsIndex.h"
-#include "platform/DirectoryListing.h"
 #include "platform/Prompter.h"
-#include "platform/Text.h"
 #include "ui/FocusColors.h"
 #include "ui/WindowText.h"
 #include "ui/dialogs/DialogTexts.h"
 #include "ui/dialogs/FileChooser.h"
-#include "ui/dialogs/NewWordPath.h"
+#include "ui/dialogs/NewWordModel.h"
 
 namespace quorin {
 
@@ -47,27 +45,23 @@ void frmNewWord::cmdBrowse_Click() {
 
 void frmNewWord::cmdOK_Click() {
     const std::string word = WindowText(txtWord);
-    if (word.find_first_not_of(' ') == std::string::npos) {
-        Refuse(kNoWordText, IDC_NEWWORD_WORD);
-        return;
-    }
     const std::string path = WindowText(txtFilename);
-    if (!AnyNormalFileMatches(path)) {
-        Refuse(kNoFileText, IDC_NEWWORD_FILENAME);
-        return;
-    }
     clsIndex& index = services_.index;
-    if (index.Words().Item(word) != nullptr) {
-        Refuse(WordAlreadyAssignedText(word), IDC_NEWWORD_WORD);
+    if (const std::optional<NewWordFault> fault = CheckNewWord(index, word, path)) {
+        switch (*fault) {
+            case NewWordFault::NoWord:
+                Refuse(kNoWordText, IDC_NEWWORD_WORD);
+                break;
+            case NewWordFault::NoFile:
+                Refuse(kNoFileText, IDC_NEWWORD_FILENAME);
+                break;
+            case NewWordFault::WordAssigned:
+                Refuse(WordAlreadyAssignedText(word), IDC_NEWWORD_WORD);
+                break;
+        }
         return;
     }
-    const FolderAndFile parts = SplitAtLastBackslash(path);
-    clsItem item;
-    item.Word = word;
-    item.UCFilename = ToUpper(word);
-    item.Directory = index.GetDirectory(parts.folder).value_or(0);
-    item.Filename = parts.fileName;
-    index.AddWord(item);
+    index.AddWord(NewWordItem(index, word, path));
     EndDialog(IDOK);
 }
 

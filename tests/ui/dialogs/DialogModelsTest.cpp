@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <stdexcept>
 #include <string>
@@ -8,12 +9,13 @@
 #include <vector>
 
 #include "platform/MemorySettingsStore.h"
+#include "platform/Path.h"
 #include "ui/dialogs/DialogTexts.h"
 #include "ui/dialogs/DriveChoice.h"
 #include "ui/dialogs/FileTypeLists.h"
 #include "ui/dialogs/IndexOptions.h"
 #include "ui/dialogs/IntervalText.h"
-#include "ui/dialogs/NewWordPath.h"
+#include "ui/dialogs/NewWordModel.h"
 
 namespace quorin {
 namespace {
@@ -142,7 +144,7 @@ TEST(IndexOptionsTest, WritesTheKeysInOrderAndFormsAndLeavesStaleDrives) {
                                    "Index:IgnoreTempFolders=0", "Index:DriveCount=0"}));
 }
 
-TEST(NewWordPathTest, SplitsAtTheLastBackslashBeforeTheFinalCharacter) {
+TEST(NewWordModelTest, SplitsAtTheLastSeparatorBeforeTheFinalCharacter) {
     for (const auto& [path, folder, file] : {std::tuple{"C:\\DOCS\\a.txt", "C:\\DOCS", "a.txt"},
                                              {"C:\\DOCS\\*.TXT", "C:\\DOCS", "*.TXT"},
                                              {"C:\\DOCS\\sub\\", "C:\\DOCS", "sub\\"},
@@ -151,9 +153,14 @@ TEST(NewWordPathTest, SplitsAtTheLastBackslashBeforeTheFinalCharacter) {
                                              {"a.txt", "", ""},
                                              {"\\", "", ""},
                                              {"", "", ""}}) {
-        const FolderAndFile split = SplitAtLastBackslash(path);
-        EXPECT_EQ(split.folder, folder) << path;
-        EXPECT_EQ(split.fileName, file) << path;
+        // Written with "\\"; POSIX builds (quorin-cli) split at "/".
+        const auto native = [](std::string text) {
+            std::replace(text.begin(), text.end(), '\\', kPathSeparator);
+            return text;
+        };
+        const FolderAndFile split = SplitAtLastSeparator(native(path));
+        EXPECT_EQ(split.folder, native(folder)) << path;
+        EXPECT_EQ(split.fileName, native(file)) << path;
     }
 }
 
