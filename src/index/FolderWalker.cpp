@@ -12,7 +12,6 @@ FolderWalker::FolderWalker(WalkOptions options, FolderTable& folders, IndexItems
     : options_(std::move(options)), folders_(folders), items_(items) {}
 
 void FolderWalker::Walk(int32_t slot) {
-    // A copy, since a growable table moves its paths when it grows.
     const std::string folder = folders_.Path(slot);
     ListFolder(folder, options_.includeSystemFolders, [&](std::string_view name, bool isFolder) {
         if (isFolder) {
