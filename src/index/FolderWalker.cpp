@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "index/NameRules.h"
-#include "platform/DirectoryListing.h"
 #include "platform/Path.h"
 
 namespace quorin {
@@ -13,7 +12,7 @@ FolderWalker::FolderWalker(WalkOptions options, FolderTable& folders, IndexItems
 
 void FolderWalker::Walk(int32_t slot) {
     const std::string folder = folders_.Path(slot);
-    ListFolder(folder, options_.includeSystemFolders, [&](std::string_view name, bool isFolder) {
+    lister_.List(folder, options_.includeSystemFolders, [&](std::string_view name, bool isFolder) {
         if (isFolder) {
             AddFolder(folder, name);
         } else if (PassesFileTypeFilter(name, options_.filter, options_.filterIsInclude)) {
