@@ -1,5 +1,6 @@
 // quorin-benchdata: the deterministic inputs of scripts/bench.
 //   quorin-benchdata tree ROOT [FOLDERS FILES]      a folder tree of empty files
+//   quorin-benchdata windows ROOT [FOLDERS FILES]   the same, shaped like a Windows drive
 //   quorin-benchdata index FOLDER [FOLDERS RECORDS] index.txt and names.txt
 #include "DataWriters.h"
 
@@ -26,6 +27,11 @@ int main(int argc, char** argv) {
                                      CountArgument(argc, argv, 4, 100000), kSeed);
             return 0;
         }
+        if (command == "windows") {
+            quorin::bench::WriteWindowsTree(argv[2], CountArgument(argc, argv, 3, 250000),
+                                            CountArgument(argc, argv, 4, 1500000), kSeed);
+            return 0;
+        }
         if (command == "index") {
             quorin::bench::WriteIndexCorpus(argv[2], CountArgument(argc, argv, 3, 5000),
                                             CountArgument(argc, argv, 4, 1000000), kSeed);
@@ -36,7 +42,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     std::fprintf(stderr,
-                 "usage: quorin-benchdata tree ROOT [FOLDERS FILES]\n"
+                 "usage: quorin-benchdata tree|windows ROOT [FOLDERS FILES]\n"
                  "       quorin-benchdata index FOLDER [FOLDERS RECORDS]\n");
     return 2;
 }

@@ -63,8 +63,11 @@ class Engine {
     clsIndex index_;
 };
 
+// "AllFolders", so that an index of any folder count loads.
 std::unique_ptr<Engine> OpenEngine(const std::string& folder) {
-    return std::make_unique<Engine>(folder, std::make_unique<MemorySettingsStore>());
+    auto settings = std::make_unique<MemorySettingsStore>();
+    settings->Save("Index", "AllFolders", "True");
+    return std::make_unique<Engine>(folder, std::move(settings));
 }
 
 void PrintTimings(const Timings& timings, const char* countName, long long count) {

@@ -1,6 +1,7 @@
 #include "DataWriters.h"
 
 #include "FolderTree.h"
+#include "WindowsTree.h"
 
 #include <filesystem>
 #include <fstream>
@@ -29,15 +30,13 @@ std::ofstream OpenForWriting(const std::filesystem::path& path) {
     return out;
 }
 
-}  // namespace
-
-void WriteTree(const std::string& root, uint32_t folders, uint32_t files, uint64_t seed) {
-    Random random(seed);
-    NameGenerator names(seed + 1, kRareOneIn);
-    const FolderTree tree(root, '/', folders, names, random);
-    const std::vector<uint32_t> fileCounts = SpreadOver(files, folders, random);
-    for (size_t slot = 0; slot < tree.Paths().size(); ++slot) {
-        const std::string& folder = tree.Paths()[slot];
+// Creates the folders, parents first, and spreads the files over them at random.
+void CreateFolders(const std::vector<std::string>& paths, uint32_t files, NameGenerator& names,
+                   Random& random) {
+    const std::vector<uint32_t> fileCounts =
+        SpreadOver(files, static_cast<uint32_t>(paths.size()), random);
+    for (size_t slot = 0; slot < paths.size(); ++slot) {
+        const std::string& folder = paths[slot];
         std::filesystem::create_directories(folder);
         std::vector<std::string> taken;
         while (taken.size() < fileCounts[slot]) {
@@ -47,6 +46,22 @@ void WriteTree(const std::string& root, uint32_t folders, uint32_t files, uint64
             }
         }
     }
+}
+
+}  // namespace
+
+void WriteTree(const std::string& root, uint32_t folders, uint32_t files, uint64_t seed) {
+    Random random(seed);
+    NameGenerator names(seed + 1, kRareOneIn);
+    const FolderTree tree(root, '/', folders, names, random);
+    CreateFolders(tree.Paths(), files, names, random);
+}
+
+void WriteWindowsTree(const std::string& root, uint32_t folders, uint32_t files, uint64_t seed) {
+    Random random(seed);
+    NameGenerator names(seed + 1, kRareOneIn);
+    const WindowsTree tree(root, '/', folders, names, random);
+    CreateFolders(tree.Paths(), files, names, random);
 }
 
 void WriteIndexCorpus(const std::string& folder, uint32_t folders, uint32_t records,

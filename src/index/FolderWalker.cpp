@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "index/NameRules.h"
-#include "platform/DirectoryListing.h"
 #include "platform/Path.h"
 
 namespace quorin {
@@ -12,9 +11,8 @@ FolderWalker::FolderWalker(WalkOptions options, FolderTable& folders, IndexItems
     : options_(std::move(options)), folders_(folders), items_(items) {}
 
 void FolderWalker::Walk(int32_t slot) {
-    // A copy, since a growable table moves its paths when it grows.
     const std::string folder = folders_.Path(slot);
-    ListFolder(folder, options_.includeSystemFolders, [&](std::string_view name, bool isFolder) {
+    lister_.List(folder, options_.includeSystemFolders, [&](std::string_view name, bool isFolder) {
         if (isFolder) {
             AddFolder(folder, name);
         } else if (PassesFileTypeFilter(name, options_.filter, options_.filterIsInclude)) {

@@ -6,6 +6,7 @@
 
 #include "index/FolderTable.h"
 #include "index/IndexItems.h"
+#include "platform/DirectoryListing.h"
 
 namespace quorin {
 
@@ -36,6 +37,7 @@ class FolderWalker {
     WalkOptions options_;
     FolderTable& folders_;
     IndexItems& items_;
+    FolderLister lister_;
     int32_t foldersLeftOut_ = 0;
 };
 

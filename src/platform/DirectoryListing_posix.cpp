@@ -36,11 +36,7 @@ Kind KindOf(int folderFd, const dirent64& entry) {
     return S_ISDIR(status.st_mode) ? Kind::Folder : Kind::File;
 }
 
-}  // namespace
-
-void ListFolder(const std::string& folder, bool /*includeSystem*/, const EntryCallback& onEntry) {
-    const UniqueFd folderFd(
-        open(folder.empty() ? "/" : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+void ListOpenFolder(const UniqueFd& folderFd, const EntryCallback& onEntry) {
     if (!folderFd) {
         return;
     }
@@ -63,6 +59,44 @@ void ListFolder(const std::string& folder, bool /*includeSystem*/, const EntryCa
             }
         }
     }
+}
+
+UniqueFd OpenFolder(int atFd, const std::string& path) {
+    return UniqueFd(
+        openat(atFd, path.empty() ? "/" : path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+}
+
+}  // namespace
+
+void ListFolder(const std::string& folder, bool /*includeSystem*/, const EntryCallback& onEntry) {
+    ListOpenFolder(OpenFolder(AT_FDCWD, folder), onEntry);
+}
+
+struct FolderLister::OpenParent {
+    std::string path;
+    UniqueFd fd;
+};
+
+FolderLister::FolderLister() : parent_(std::make_unique<OpenParent>()) {}
+
+FolderLister::~FolderLister() = default;
+
+void FolderLister::List(const std::string& folder, bool /*includeSystem*/,
+                        const EntryCallback& onEntry) {
+    const size_t slash = folder.rfind('/');
+    if (slash == std::string::npos || slash == 0 || slash + 1 == folder.size()) {
+        ListOpenFolder(OpenFolder(AT_FDCWD, folder), onEntry);
+        return;
+    }
+    const std::string_view parent(folder.data(), slash);
+    if (parent_->path != parent) {
+        parent_->path = parent;
+        parent_->fd = OpenFolder(AT_FDCWD, parent_->path);
+    }
+    // A parent that may be passed through but not read is no help.
+    ListOpenFolder(parent_->fd ? OpenFolder(parent_->fd.get(), folder.substr(slash + 1))
+                               : OpenFolder(AT_FDCWD, folder),
+                   onEntry);
 }
 
 bool AnyNormalFileMatches(const std::string& pattern) {

@@ -33,6 +33,18 @@ void ListFolder(const std::string& folder, bool includeSystem, const EntryCallba
     } while (FindNextFileW(find.get(), &found));
 }
 
+// Windows opens a folder only by its path, so there is nothing to keep between listings.
+struct FolderLister::OpenParent {};
+
+FolderLister::FolderLister() : parent_(std::make_unique<OpenParent>()) {}
+
+FolderLister::~FolderLister() = default;
+
+void FolderLister::List(const std::string& folder, bool includeSystem,
+                        const EntryCallback& onEntry) {
+    ListFolder(folder, includeSystem, onEntry);
+}
+
 bool AnyNormalFileMatches(const std::string& pattern) {
     WIN32_FIND_DATAW found;
     const UniqueFindHandle find(FindFirstFileExW(Widen(pattern).c_str(), FindExInfoBasic, &found,

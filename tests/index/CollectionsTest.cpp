@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <string>
+#include <vector>
 
 #include "index/FolderTable.h"
 #include "index/IndexItems.h"
@@ -93,6 +95,27 @@ TEST(FolderTableTest, FindIsCaseFreeAmongUsedSlotsAndTheBoundIsFixed) {
     while (folders.Append("X")) {
     }
     EXPECT_EQ(folders.Count(), kFolderSlots);
+}
+
+// Paths are stored as differences from the slot before; a refill after Clear must leave every
+// later slot, in the refilled block and beyond, as it was.
+TEST(FolderTableTest, RefilledSlotsAndTheSlotsAfterThemReadBackAsStored) {
+    FolderTable folders(true);
+    std::vector<std::string> model;
+    for (int i = 0; i < 40; ++i) {
+        model.push_back("C:/Deep/Folder" + std::to_string(i % 7) + "/" + std::to_string(i));
+        folders.Append(model.back());
+    }
+    folders.Clear();
+    for (int i = 0; i < 21; ++i) {
+        model[static_cast<size_t>(i)] = i % 5 == 0 ? "" : "D:/Other" + std::to_string(i * 3);
+        folders.Append(model[static_cast<size_t>(i)]);
+    }
+    for (size_t slot = 0; slot < model.size(); ++slot) {
+        EXPECT_EQ(folders.Path(static_cast<int32_t>(slot)), model[slot]) << slot;
+    }
+    EXPECT_EQ(folders.Find("d:/other57"), 19);
+    EXPECT_EQ(folders.Path(kFolderSlots - 1), "") << "never used";
 }
 
 }  // namespace

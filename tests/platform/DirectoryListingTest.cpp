@@ -47,6 +47,26 @@ TEST(ListFolder, ReportsFilesAndFoldersButNoHiddenOnes) {
     EXPECT_EQ(List(temp.Path(), true), expected);
 }
 
+// A walk's order: siblings, a cousin, a folder back under an earlier parent, a missing one.
+TEST(FolderLister, ListsEachFolderAsListFolderDoes) {
+    TempFolder temp;
+    for (const char* file : {"A/One/1.txt", "A/Two/2.txt", "B/Three/3.txt", "top.txt"}) {
+        temp.MakeFolder(std::string(file).substr(0, std::string(file).rfind('/') + 1));
+        temp.WriteFile(file, "x");
+    }
+    FolderLister lister;
+    for (const char* relative : {"", "A", "B", "A/One", "A/Two", "B/Three", "A/One", "A/Gone"}) {
+        const std::string folder = *relative ? JoinPath(temp.Path(), relative) : temp.Path();
+        std::map<std::string, bool> entries;
+        lister.List(folder, false, [&](std::string_view name, bool isFolder) {
+            entries.emplace(std::string(name), isFolder);
+        });
+        entries.erase(".");
+        entries.erase("..");
+        EXPECT_EQ(entries, List(folder, false)) << relative;
+    }
+}
+
 TEST(ListFolder, ReportsSystemEntriesOnlyWhenAskedTo) {
     TempFolder temp;
     temp.WriteFile("plain.txt", "x");
