@@ -107,13 +107,15 @@ void frmMain::LayOut() {
     dpi_ = WindowDpi(hwnd());
     font_ = SetMessageFont(hwnd(), dpi_);
     tabLabel[currentTab_].SetSelected(true);
-    const MainLayout layout = ComputeMainLayout(dpi_, tabLabel.Widths());
-    SetWindowPos(hwnd(), nullptr, 0, 0, layout.windowWidth, layout.windowHeight,
+    // The controls first: how far down they reach sets the window's height.
+    picPanel.PlaceControls(dpi_);
+    const MainLayout layout = ComputeMainLayout(dpi_, tabLabel.Widths(), picPanel.ContentBottom());
+    const SIZE outer = OuterSize({layout.clientWidth, layout.clientHeight}, kMainStyle, 0, dpi_);
+    SetWindowPos(hwnd(), nullptr, 0, 0, outer.cx, outer.cy,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     tabLabel.Place(layout.tabLefts, 0);
-    RECT client{};
-    GetClientRect(hwnd(), &client);
-    picPanel.Place(layout.panelTop, layout.panelWidth, client.bottom - layout.panelTop, dpi_);
+    picPanel.PlacePanels(layout.panelTop, layout.clientWidth,
+                         layout.clientHeight - layout.panelTop);
 }
 
 void frmMain::OnDpiChanged(int, const RECT& suggested) {

@@ -50,25 +50,19 @@ TEST(TrayCallback, DecodesOnlyGenuineCallbacks) {
     EXPECT_EQ(DecodeTrayCallback(2, WM_LBUTTONUP), TrayAction::None) << "another icon's id";
 }
 
-TEST(MainLayout, TabsTouchAndExitSitsAtTheRightEdgeAtTwoDpis) {
+TEST(MainLayout, ClientFitsTheContentAndExitSitsAtItsRightEdgeAtTwoDpis) {
     const std::vector<int> widths = {30, 45, 55, 40, 35};
-    const MainLayout at96 = ComputeMainLayout(96, widths);
-    EXPECT_EQ(at96.windowWidth, 360);   // 5400 twips
-    EXPECT_EQ(at96.windowHeight, 100);  // 1500 twips
-    EXPECT_EQ(at96.panelTop, 16);       // 240 twips
-    EXPECT_EQ(at96.panelWidth, 360);
-    EXPECT_EQ(at96.tabLefts, (std::vector<int>{0, 30, 75, 130, 360 - 35 - 4}));
+    const MainLayout at96 = ComputeMainLayout(96, widths, 64);
+    EXPECT_EQ(at96.clientWidth, 354);           // 5310 twips
+    EXPECT_EQ(at96.clientHeight, 16 + 64 + 6);  // the tab row, the content and 90 twips
+    EXPECT_EQ(at96.panelTop, 16);
+    EXPECT_EQ(at96.tabLefts, (std::vector<int>{0, 30, 75, 130, 354 - 35 - 4}));
 
     const std::vector<int> doubled = {60, 90, 110, 80, 70};
-    const MainLayout at192 = ComputeMainLayout(192, doubled);
-    EXPECT_EQ(at192.windowWidth, 720);
-    EXPECT_EQ(at192.windowHeight, 200);
-    EXPECT_EQ(at192.panelTop, 32);
-    EXPECT_EQ(at192.tabLefts, (std::vector<int>{0, 60, 150, 260, 720 - 70 - 8}));
-
-    const MainLayout at144 = ComputeMainLayout(144, widths);
-    EXPECT_EQ(at144.windowHeight, 150);
-    EXPECT_EQ(at144.panelTop, 24);
+    const MainLayout at192 = ComputeMainLayout(192, doubled, 128);
+    EXPECT_EQ(at192.clientWidth, 708);
+    EXPECT_EQ(at192.clientHeight, 32 + 128 + 12);
+    EXPECT_EQ(at192.tabLefts, (std::vector<int>{0, 60, 150, 260, 708 - 70 - 8}));
 }
 
 TEST(ReindexSchedule, RebuildsOnlyAfterAFullDay) {
