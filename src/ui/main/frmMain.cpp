@@ -371,7 +371,7 @@ void frmMain::Form_Unload() {
 }
 
 void frmMain::StorePosition() {
-    startPlace_.Store(hwnd(), dpi_);
+    startPlace_.Store(hwnd());
 }
 
 void frmMain::Form_MouseMove(WPARAM wParam, LPARAM lParam) {

@@ -6,6 +6,7 @@
 
 #include "ui/main/MainLayout.h"
 #include "ui/main/ReindexSchedule.h"
+#include "ui/main/RememberedPlace.h"
 #include "ui/main/TrayCallback.h"
 #include "ui/main/TrayRecord.h"
 
@@ -63,6 +64,35 @@ TEST(MainLayout, ClientFitsTheContentAndExitSitsAtItsRightEdgeAtTwoDpis) {
     EXPECT_EQ(at192.clientWidth, 708);
     EXPECT_EQ(at192.clientHeight, 32 + 128 + 12);
     EXPECT_EQ(at192.tabLefts, (std::vector<int>{0, 60, 150, 260, 708 - 70 - 8}));
+}
+
+// A 96 dpi monitor with a 144 dpi one right of it, and one left of it: a place comes back on the
+// monitor it was kept on, also where the other monitor would hold its conversion too.
+TEST(PlaceInPixels, ComesBackOnTheMonitorOfItsDpi) {
+    const std::vector<MonitorDpi> right = {{{0, 0, 1280, 800}, 96}, {{1280, 0, 3200, 1080}, 144}};
+    const std::vector<MonitorDpi> left = {{{0, 0, 1280, 800}, 96}, {{-1920, 0, 0, 1080}, 144}};
+    struct Case {
+        std::vector<MonitorDpi> monitors;
+        POINT twips;
+        int keptDpi;
+        POINT pixels;
+    };
+    const Case kCases[] = {
+        {right, {15000, 3000}, 144, {1500, 300}},  // on the right monitor
+        {right, {15000, 3000}, 96, {1000, 200}},   // the same twips kept on the left one
+        {right, {30000, 0}, 96, {3000, 0}},        // only the 144 dpi monitor holds it
+        {right, {3000, 1500}, 0, {200, 100}},      // kept before the DPI was kept
+        {left, {-15000, 4500}, 144, {-1500, 450}},
+        {left, {-15000, 4500}, 96, {-1500, 450}},    // the 96 dpi conversion lies off every monitor
+        {right, {-3000, 90000}, 144, {-300, 9000}},  // off every monitor: at the fallback DPI
+    };
+    for (const Case& c : kCases) {
+        const POINT pixels = PlaceInPixels(c.twips, c.keptDpi, c.monitors, 144);
+        EXPECT_EQ(pixels.x, c.pixels.x)
+            << c.twips.x << ", " << c.twips.y << " kept at " << c.keptDpi;
+        EXPECT_EQ(pixels.y, c.pixels.y)
+            << c.twips.x << ", " << c.twips.y << " kept at " << c.keptDpi;
+    }
 }
 
 TEST(ReindexSchedule, RebuildsOnlyAfterAFullDay) {
