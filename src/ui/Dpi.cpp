@@ -15,12 +15,11 @@ int RoundedQuotient(std::int64_t numerator, std::int64_t denominator) {
     return static_cast<int>(quotient);
 }
 
-using GetDpiForWindowFunction = UINT(WINAPI*)(HWND);
-
-// Looked up at run time: the function appeared in Windows 10 version 1607.
-GetDpiForWindowFunction FindGetDpiForWindow() {
-    const FARPROC found = GetProcAddress(GetModuleHandleW(L"user32.dll"), "GetDpiForWindow");
-    return reinterpret_cast<GetDpiForWindowFunction>(reinterpret_cast<void (*)()>(found));
+// Looked up at run time: the DPI functions of user32 appeared in Windows 10 version 1607.
+template <typename Function>
+Function* FindUser32Function(const char* name) {
+    const FARPROC found = GetProcAddress(GetModuleHandleW(L"user32.dll"), name);
+    return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(found));
 }
 
 }  // namespace
@@ -43,13 +42,26 @@ int ScreenDpi() {
 }
 
 int WindowDpi(HWND window) {
-    static const GetDpiForWindowFunction getDpiForWindow = FindGetDpiForWindow();
+    static const auto getDpiForWindow = FindUser32Function<UINT WINAPI(HWND)>("GetDpiForWindow");
     if (getDpiForWindow != nullptr && window != nullptr) {
         if (const UINT dpi = getDpiForWindow(window); dpi != 0) {
             return static_cast<int>(dpi);
         }
     }
     return ScreenDpi();
+}
+
+SIZE OuterSize(SIZE client, DWORD style, DWORD exStyle, int dpi) {
+    static const auto adjustForDpi =
+        FindUser32Function<BOOL WINAPI(RECT*, DWORD, BOOL, DWORD, UINT)>(
+            "AdjustWindowRectExForDpi");
+    RECT frame{0, 0, client.cx, client.cy};
+    if (adjustForDpi != nullptr) {
+        adjustForDpi(&frame, style, FALSE, exStyle, static_cast<UINT>(dpi));
+    } else {
+        AdjustWindowRectEx(&frame, style, FALSE, exStyle);
+    }
+    return {frame.right - frame.left, frame.bottom - frame.top};
 }
 
 LOGFONTW MessageFont(int dpi) {

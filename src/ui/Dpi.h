@@ -25,6 +25,10 @@ int ScreenDpi();
 // window it does not know) the screen's.
 int WindowDpi(HWND window);
 
+// The outer size of a window whose client area is `client` pixels: the client plus the frame the
+// system draws for the style at the DPI (AdjustWindowRectExForDpi where the system has it).
+SIZE OuterSize(SIZE client, DWORD style, DWORD exStyle, int dpi);
+
 // The system's message font (the usual font of dialogs and controls) sized for a DPI.
 LOGFONTW MessageFont(int dpi);
 

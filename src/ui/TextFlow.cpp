@@ -62,4 +62,12 @@ void PlaceAfterText(HWND label, HWND follower) {
     SetWindowPos(follower, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+int ClearOfText(HWND label) {
+    const WindowDC dc(label);
+    const SelectedObject font(dc.get(),
+                              reinterpret_cast<HGDIOBJ>(SendMessageW(label, WM_GETFONT, 0, 0)));
+    return Window::RectInParent(label).left + TextWidth(dc.get(), Widen(WindowText(label))) +
+           TextWidth(dc.get(), L" ");
+}
+
 }  // namespace quorin

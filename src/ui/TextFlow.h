@@ -9,4 +9,8 @@ namespace quorin {
 // line is too short for it. Both are children of the same window.
 void PlaceAfterText(HWND label, HWND follower);
 
+// Where a control right of the one-line static `label` may begin, in the label's parent: one
+// blank after the label's text.
+int ClearOfText(HWND label);
+
 }  // namespace quorin

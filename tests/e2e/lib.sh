@@ -21,13 +21,13 @@ fail() {
 shot() { import -display "$DISPLAY" -window root "$shots/$1.png"; }
 stop() { wineserver -k 2>/dev/null || true; }
 
-# The main window is centred on the 1280 x 800 desktop: its tabs are at y 379, its word box at
-# 620, 405, and the tray icon at 1270, 790.
+# The main window is centred on the 1280 x 800 desktop: its tabs are at y 373, its word box at
+# 620, 399, and the tray icon at 1270, 790.
 main_area=380x120+450+340
 crop_main() { convert "$shots/$1.png" -crop "$main_area" +repage "$shots/$1.png"; }
 # The start of the panel's first line, left of the word box and its caret: each tab shows
 # another text there.
-panel_start=70x14+460+398
+panel_start=70x14+460+392
 
 # A checksum of the screen area WxH+X+Y as it shows now.
 area_sum() { import -display "$DISPLAY" -window root -crop "$1" rgb:- | md5sum; }
@@ -146,11 +146,11 @@ pixel() {
     import -display "$DISPLAY" -window root -crop "1x1+$1+$2" txt:- | tail -1 | awk '{print $3}'
 }
 word_box_ink() {
-    import -display "$DISPLAY" -window root -crop 100x18+536+396 png:- |
+    import -display "$DISPLAY" -window root -crop 100x18+536+390 png:- |
         convert png:- -colorspace gray -threshold 50% -negate -format '%[fx:round(mean*w*h)]' info:
 }
 # White where the box is: the Go panel is up, not the progress panel of a build still ending.
-word_box_shown() { [[ "$(pixel 620 405)" == "#FFFFFF"* ]]; }
+word_box_shown() { [[ "$(pixel 620 399)" == "#FFFFFF"* ]]; }
 word_box_empty() { [ "$(word_box_ink)" -lt 30 ]; }
 word_box_filled() { [ "$(word_box_ink)" -ge 30 ]; }
 
@@ -160,7 +160,7 @@ word_box_filled() { [ "$(word_box_ink)" -ge 30 ]; }
 type_word() {  # WORD
     wait_until 30 "the main window shows no word box" word_box_shown
     for _ in 1 2 3; do
-        click_to_focus 620 405 '^Quorin$'
+        click_to_focus 620 399 '^Quorin$'
         xdotool key ctrl+a BackSpace
         poll 5 word_box_empty || continue
         xdotool type --delay 100 "$1"
@@ -196,7 +196,7 @@ wait_for_index() { wait_until 120 "no index.txt after answering Yes" test -f "$p
 program_gone() { ! kill -0 "$desktop" 2>/dev/null; }
 exit_program() {
     for _ in 1 2 3; do
-        xdotool mousemove 803 379 click 1
+        xdotool mousemove 803 373 click 1
         poll 20 program_gone && return 0
     done
     fail "the Exit tab did not end the program"

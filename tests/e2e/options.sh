@@ -42,7 +42,7 @@ new_word_shown() { window_shown '^Add New Word$'; }
 # may be up already, so the tab's click is given again rather than waited for.
 open_options() {  # LINK_Y
     for _ in 1 2 3; do
-        xdotool mousemove 550 379 click 1
+        xdotool mousemove 550 373 click 1
         settled "$main_area"
         xdotool mousemove 525 "$1" click 1
         poll 10 options_shown && break
@@ -67,7 +67,7 @@ wait_for_index
 position=$(wine reg query HKCR 2>/dev/null | tr -d '\r' | sed -n 's/^HKEY_CLASSES_ROOT\\//p' |
     grep -E '^\.[^.*,]*$' | grep -nix '.qzp' | cut -d: -f1)
 [ -n "$position" ] || fail "the classes root does not list .qzp"
-open_options 416
+open_options 410
 settled 500x400+390+200
 shot options-live
 xdotool key Home
@@ -81,17 +81,17 @@ wait_until 20 "OK did not close the Options dialog" options_gone
 # The next build takes the new filter; its one match opens at once.
 rm -f "$program/index.txt.old"
 cp "$program/index.txt" "$program/index.txt.old"
-click_and_wait 502 379 "$main_area"
-xdotool mousemove 480 435 click 1
+click_and_wait 502 373 "$main_area"
+xdotool mousemove 480 429 click 1
 wait_until 60 "Update Index Now built no new index" \
     bash -c "! cmp -s '$program/index.txt' '$program/index.txt.old' && grep -q 'report.qzp' '$program/index.txt'"
-click_and_wait 472 379 "$main_area"
+click_and_wait 472 373 "$main_area"
 type_word report
 xdotool key Return
 wait_until 20 "Go on report did not open report.qzp" opened 'report.qzp'
 
 # Words: Add New Word from the Words page (Alt+N), then Cancel the Options dialog.
-open_options 435
+open_options 429
 xdotool key alt+n
 wait_until 20 "Add New Word did not open" new_word_shown
 wait_until 10 "Add New Word did not take the focus" has_focus '^Add New Word$'
@@ -105,7 +105,7 @@ wait_until 20 "Escape did not close the Options dialog" options_gone
 words | grep -qx plan || fail "words.txt holds no word plan after Cancel"
 
 # Delete it: the list takes the focus with Tab, Home selects the row, Alt+D asks, Enter is Yes.
-open_options 435
+open_options 429
 xdotool key Tab Home alt+d
 wait_until 20 "Delete Word asked nothing" window_shown '^Confirm delete$'
 xdotool key Return

@@ -41,13 +41,13 @@ shot main-go
 type_word no
 shot completion
 xdotool key ctrl+a BackSpace
-click_and_wait 502 379 "$panel_start"
+click_and_wait 502 373 "$panel_start"
 settled "$main_area"
 shot main-index
-click_and_wait 548 379 "$panel_start"
+click_and_wait 548 373 "$panel_start"
 settled "$main_area"
 shot main-options
-click_and_wait 589 379 "$panel_start"
+click_and_wait 589 373 "$panel_start"
 settled "$main_area"
 shot main-help
 tray_menu_area=320x160+960+640

@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Screenshots of a look program's windows at 100 % and 150 % (not run by CTest). Each SHOT is
 # ARGUMENT=TITLE=NAME: the program is started with ARGUMENT, the window titled TITLE is taken
-# as OUT_FOLDER/NAME-<dpi>.png, and the program is ended.
+# as OUT_FOLDER/NAME-<dpi>.png, and the program is ended. With WIN10=1 the shots are taken at the
+# window metrics of Windows 10 and 11 (and QUORIN_HIGH_CONTRAST=1 adds high-contrast colours; see
+# set_metrics.sh); DPIS lists the DPIs.
 # Usage: scripts/with-xvfb bash tests/support/look_shots.sh LOOK_EXE WORK_FOLDER OUT_FOLDER SHOT...
 set -euo pipefail
 look=$1
@@ -14,11 +16,15 @@ export WINEDEBUG=-all
 export WINEDLLOVERRIDES="mscoree,mshtml="
 mkdir -p "$out"
 
-for dpi in 96 144; do
+for dpi in ${DPIS:-96 144}; do
     export WINEPREFIX=$work/prefix-$dpi
-    "$here/scripts/wine-run" --prefix "$WINEPREFIX" cmd /c exit >/dev/null 2>&1 || true
-    wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f >/dev/null
-    wineserver -w
+    if [ "${WIN10:-}" = 1 ]; then
+        bash "$here/tests/support/set_metrics.sh" "$WINEPREFIX" "$dpi"
+    else
+        "$here/scripts/wine-run" --prefix "$WINEPREFIX" cmd /c exit >/dev/null 2>&1 || true
+        wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f >/dev/null
+        wineserver -w
+    fi
     for shot in "$@"; do
         IFS== read -r argument title name <<<"$shot"
         wine "Z:${look//\//\\}" "$argument" &

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <optional>
 
 namespace quorin {
 
@@ -16,5 +17,10 @@ constexpr OleColor SystemColor(int index) {
 }
 
 COLORREF ResolveColor(OleColor color);
+
+// Whether the user has turned high contrast on (SPI_GETHIGHCONTRAST), asked at each paint. Tests
+// and the programs that take screenshots may say instead: Wine never reports it on.
+bool HighContrastOn();
+void OverrideHighContrast(std::optional<bool> on);
 
 }  // namespace quorin

@@ -31,7 +31,9 @@ void ctlLinkLabel::SetBackColor(OleColor color) {
 }
 
 LabelLook ctlLinkLabel::Look() const {
-    return {kLinkBlue, SystemColor(COLOR_GRAYTEXT), backColor_, false};
+    // Under high contrast the user's hyperlink colour is the one that reads on their background.
+    const OleColor text = HighContrastOn() ? SystemColor(COLOR_HOTLIGHT) : kLinkBlue;
+    return {text, SystemColor(COLOR_GRAYTEXT), backColor_, false};
 }
 
 LabelRole ctlLinkLabel::Role() const {

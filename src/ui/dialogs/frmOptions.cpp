@@ -9,6 +9,7 @@
 #include "platform/Prompter.h"
 #include "platform/SettingsStore.h"
 #include "platform/registry/SignInStart.h"
+#include "ui/Dpi.h"
 #include "ui/FocusColors.h"
 #include "ui/TabKeys.h"
 #include "ui/WindowText.h"
@@ -19,6 +20,7 @@ namespace quorin {
 
 namespace {
 
+constexpr SIZE kTabPadding{6, 3};  // the system's own at 96 dpi
 constexpr std::array<const wchar_t*, kOptionsPageCount> kTabCaptions = {L"General", L"File Types",
                                                                         L"Words"};
 constexpr std::array<int, kOptionsPageCount> kPageTemplates = {
@@ -53,6 +55,11 @@ void frmOptions::ShowAllFoldersOption() {
 bool frmOptions::OnInit() {
     SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(services_.icon));
     TabStrip1 = Item(IDC_OPTIONS_TABS);
+    // The system's padding is in pixels; scaled like the font, the captions keep clear of the
+    // tabs' edges at any DPI.
+    const int dpi = WindowDpi(hwnd());
+    TabCtrl_SetPadding(TabStrip1, ScaleForDpi(kTabPadding.cx, dpi),
+                       ScaleForDpi(kTabPadding.cy, dpi));
     for (int i = 0; i < kOptionsPageCount; ++i) {
         TCITEMW tab{};
         tab.mask = TCIF_TEXT;

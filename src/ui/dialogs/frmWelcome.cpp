@@ -51,6 +51,16 @@ std::string WelcomeText() {
            crlf + crlf + "Click 'Next' to continue.";
 }
 
+// The rule above the links spans the client area, which the rounding of dialog units can make a
+// pixel or two narrower than the rule's 300 units.
+void SpanClientWidth(HWND control) {
+    const RECT place = Window::RectInParent(control);
+    RECT client{};
+    GetClientRect(GetParent(control), &client);
+    SetWindowPos(control, nullptr, 0, place.top, client.right, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 }  // namespace
 
 frmWelcome::frmWelcome(WelcomeServices services)
@@ -84,6 +94,7 @@ void frmWelcome::Form_Load() {
 
     SetText(Item(IDC_WELCOME_WELCOME), WelcomeText());
     PlaceAfterText(Item(IDC_WELCOME_DRIVES_TEXT), Item(IDC_WELCOME_DRIVES));
+    SpanClientWidth(Item(IDC_WELCOME_SHAPE1));
     CreateTabs();
     PrepareFileTypesList();
     for (int block = 1; block <= kProgressBlock; ++block) {
@@ -134,6 +145,7 @@ LRESULT frmWelcome::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         // The new font has resized the tabs and rewrapped the text the link follows.
         tabLabel.PlaceInRow(0, 0);
         PlaceAfterText(Item(IDC_WELCOME_DRIVES_TEXT), Item(IDC_WELCOME_DRIVES));
+        SpanClientWidth(Item(IDC_WELCOME_SHAPE1));
     }
     return result;
 }

@@ -10,6 +10,12 @@
 
 namespace quorin {
 
+// Where the help window opens on a monitor: where the position record puts it, in 1/1024 of the
+// monitor, but at least as large as the record makes it on a 1280 x 800 screen at 96 dpi, scaled
+// to the DPI like every window, and moved back into the work area where that makes it stick out.
+RECT HelpViewerPlace(const HelpWindowPosition& position, const RECT& monitor, const RECT& workArea,
+                     int dpi);
+
 // The program's help: topics of the help file in the program folder, shown in its own viewer.
 class ProgramHelp final : public Help {
   public:

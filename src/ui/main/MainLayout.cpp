@@ -4,12 +4,12 @@
 
 namespace quorin {
 
-MainLayout ComputeMainLayout(int dpi, const std::vector<int>& tabWidths) {
+MainLayout ComputeMainLayout(int dpi, const std::vector<int>& tabWidths, int contentBottom) {
     MainLayout layout;
-    layout.windowWidth = TwipsToPixels(kMainWindowWidthTwips, dpi);
-    layout.windowHeight = TwipsToPixels(kMainWindowHeightTwips, dpi);
+    layout.clientWidth = TwipsToPixels(kMainClientWidthTwips, dpi);
     layout.panelTop = TwipsToPixels(kPanelTopTwips, dpi);
-    layout.panelWidth = layout.windowWidth;
+    layout.clientHeight =
+        layout.panelTop + contentBottom + TwipsToPixels(kPanelBottomMarginTwips, dpi);
     int left = 0;
     for (const int width : tabWidths) {
         layout.tabLefts.push_back(left);
@@ -17,7 +17,7 @@ MainLayout ComputeMainLayout(int dpi, const std::vector<int>& tabWidths) {
     }
     if (!tabWidths.empty()) {
         layout.tabLefts.back() =
-            layout.windowWidth - tabWidths.back() - TwipsToPixels(kExitTabMarginTwips, dpi);
+            layout.clientWidth - tabWidths.back() - TwipsToPixels(kExitTabMarginTwips, dpi);
     }
     return layout;
 }

@@ -1,5 +1,7 @@
 #include "ui/main/MainPanels.h"
 
+#include <algorithm>
+
 #include "ui/Dpi.h"
 #include "ui/Window.h"
 #include "ui/WindowClass.h"
@@ -56,16 +58,27 @@ ctlLinkLabel* MainPanels::AddLink(int panel, int id, std::string_view caption, i
     return &link;
 }
 
-void MainPanels::Place(int top, int width, int height, int dpi) const {
-    for (HWND panel : panels_) {
-        SetWindowPos(panel, nullptr, 0, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
-    }
+void MainPanels::PlaceControls(int dpi) const {
     for (const Placement& placement : placements_) {
         const RECT& twips = placement.twips;
         const UINT keepSize = twips.right == 0 ? SWP_NOSIZE : 0;
         SetWindowPos(placement.control, nullptr, TwipsToPixels(twips.left, dpi),
                      TwipsToPixels(twips.top, dpi), TwipsToPixels(twips.right, dpi),
                      TwipsToPixels(twips.bottom, dpi), keepSize | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+}
+
+int MainPanels::ContentBottom() const {
+    int bottom = 0;
+    for (const Placement& placement : placements_) {
+        bottom = std::max(bottom, static_cast<int>(Window::RectInParent(placement.control).bottom));
+    }
+    return bottom;
+}
+
+void MainPanels::PlacePanels(int top, int width, int height) const {
+    for (HWND panel : panels_) {
+        SetWindowPos(panel, nullptr, 0, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
     }
 }
 

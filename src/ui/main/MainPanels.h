@@ -24,8 +24,12 @@ class MainPanels {
                     RECT twips);
     ctlLinkLabel* AddLink(int panel, int id, std::string_view caption, int left, int top);
 
-    // Panels at their place in pixels, and every control at its place in twips at the DPI.
-    void Place(int top, int width, int height, int dpi) const;
+    // Every control at its place in twips at the DPI.
+    void PlaceControls(int dpi) const;
+    // The lowest bottom edge of the placed controls, in pixels from the panels' top.
+    int ContentBottom() const;
+    // The panels at their place in pixels.
+    void PlacePanels(int top, int width, int height) const;
     void Show(int panel) const;
     // A control by its id, on whichever panel it lies.
     HWND Control(int id) const;

@@ -12,6 +12,7 @@
 #include "ui/PaintDc.h"
 #include "ui/ProgramIcon.h"
 #include "ui/TabKeys.h"
+#include "ui/TextFlow.h"
 #include "ui/WindowClass.h"
 #include "ui/WindowText.h"
 #include "ui/main/GoCommand.h"
@@ -25,6 +26,8 @@ namespace quorin {
 
 namespace {
 
+// Left, top, width and the height of the opened list.
+constexpr RECT kWordBoxTwips{1080, 105, 3000, 1800};
 constexpr DWORD kMainStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
 constexpr std::string_view kIndexingTip = "Quorin (indexing...)";
 constexpr std::string_view kCannotExitText =
@@ -82,7 +85,7 @@ void frmMain::CreateControls() {
 void frmMain::CreatePanelControls() {
     cboWord.Attach(picPanel.AddControl(kGoPanel, WC_COMBOBOXW, "",
                                        CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL | WS_TABSTOP,
-                                       kIdWord, {1080, 105, 3000, 1800}),
+                                       kIdWord, kWordBoxTwips),
                    hwnd());
     for (const MainDesign::Control& control : MainDesign::Controls()) {
         this->*control.member = picPanel.AddControl(control.panel, control.className, control.text,
@@ -112,13 +115,26 @@ void frmMain::LayOut() {
     dpi_ = WindowDpi(hwnd());
     font_ = SetMessageFont(hwnd(), dpi_);
     tabLabel[currentTab_].SetSelected(true);
-    const MainLayout layout = ComputeMainLayout(dpi_, tabLabel.Widths());
-    SetWindowPos(hwnd(), nullptr, 0, 0, layout.windowWidth, layout.windowHeight,
+    // The controls first: how far down they reach sets the window's height.
+    picPanel.PlaceControls(dpi_);
+    KeepWordBoxClear();
+    const MainLayout layout = ComputeMainLayout(dpi_, tabLabel.Widths(), picPanel.ContentBottom());
+    const SIZE outer = OuterSize({layout.clientWidth, layout.clientHeight}, kMainStyle, 0, dpi_);
+    SetWindowPos(hwnd(), nullptr, 0, 0, outer.cx, outer.cy,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     tabLabel.Place(layout.tabLefts, 0);
-    RECT client{};
-    GetClientRect(hwnd(), &client);
-    picPanel.Place(layout.panelTop, layout.panelWidth, client.bottom - layout.panelTop, dpi_);
+    picPanel.PlacePanels(layout.panelTop, layout.clientWidth,
+                         layout.clientHeight - layout.panelTop);
+}
+
+// Where the font draws "Enter word:" wider than its place, the word box gives way on its left.
+void frmMain::KeepWordBoxClear() {
+    const int left = ClearOfText(lblEnterWord);
+    const RECT box = Window::RectInParent(cboWord.hwnd());
+    if (left > box.left) {
+        SetWindowPos(cboWord.hwnd(), nullptr, left, box.top, box.right - left,
+                     TwipsToPixels(kWordBoxTwips.bottom, dpi_), SWP_NOZORDER | SWP_NOACTIVATE);
+    }
 }
 
 void frmMain::OnDpiChanged(int, const RECT& suggested) {
@@ -376,7 +392,7 @@ void frmMain::Form_Unload() {
 }
 
 void frmMain::StorePosition() {
-    startPlace_.Store(hwnd(), dpi_);
+    startPlace_.Store(hwnd());
 }
 
 void frmMain::Form_MouseMove(WPARAM wParam, LPARAM lParam) {

@@ -162,6 +162,7 @@ class frmMain final : public Window,
     void Hotkey_Pressed(WPARAM id);
 
     void LayOut();
+    void KeepWordBoxClear();
     void ShowPanel();
     void Repaint();
     void ShowInFront();

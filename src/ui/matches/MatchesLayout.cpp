@@ -1,5 +1,7 @@
 #include "ui/matches/MatchesLayout.h"
 
+#include <algorithm>
+
 namespace quorin {
 namespace {
 
@@ -21,7 +23,7 @@ std::optional<TwipsSize> MatchesMinimumFix(TwipsSize window) {
     return std::nullopt;
 }
 
-MatchesLayout ArrangeMatches(TwipsSize window) {
+MatchesLayout ArrangeMatches(TwipsSize window, TwipsSize associate) {
     const int w = window.width;
     const int h = window.height;
     MatchesLayout layout;
@@ -29,6 +31,12 @@ MatchesLayout ArrangeMatches(TwipsSize window) {
     layout.lvwItems = {kMargin, kListTop, w - 360, h - 1500};
     layout.cmdOpen = {w - 1380, h - 870, kButtonWidth, kButtonHeight};
     layout.chkAssociate = {kMargin, h - 870, w - 1560, kButtonHeight};
+    if (associate.width > layout.chkAssociate.width) {
+        const int lines = associate.width > w - 360 ? 2 : 1;
+        const int height = std::max(kButtonHeight, lines * associate.height);
+        layout.chkAssociate = {kMargin, h - 870 - height, w - 360, height};
+        layout.lvwItems.height -= height;
+    }
     return layout;
 }
 

@@ -39,7 +39,10 @@ struct MatchesLayout {
 std::optional<TwipsSize> MatchesMinimumFix(TwipsSize window);
 
 // The controls of a window of `window` twips: the list takes the room the window gives, the check
-// box and the Open button stay on its bottom edge, Open on the right.
-MatchesLayout ArrangeMatches(TwipsSize window);
+// box and the Open button stay on its bottom edge, Open on the right. `associate` is the check
+// box's size with its caption on one line: where that is wider than its place beside Open, the
+// check box takes a row of its own above Open across the window, two lines tall where one line
+// is still too short, and the list gives it the room.
+MatchesLayout ArrangeMatches(TwipsSize window, TwipsSize associate = {});
 
 }  // namespace quorin

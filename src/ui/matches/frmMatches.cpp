@@ -13,6 +13,7 @@
 #include "platform/SettingsStore.h"
 #include "platform/Shell.h"
 #include "platform/Text.h"
+#include "platform/WinHandles.h"
 #include "ui/Dpi.h"
 #include "ui/Hourglass.h"
 #include "ui/ListViewColumn.h"
@@ -27,6 +28,7 @@ namespace {
 
 constexpr std::string_view kSection = "Matches";
 constexpr int kSmallIconPixels = 16;  // at 96 DPI
+constexpr int kCheckBoxPixels = 20;   // a check box's box and gap before its caption, at 96 DPI
 constexpr int kNameColumnTwips = 2700;
 constexpr int kLocationColumnTwips = 3800;
 
@@ -188,7 +190,8 @@ void frmMatches::Form_Resize() {
     GetClientRect(hwnd(), &client);
     const MatchesLayout layout =
         ArrangeMatches({PixelsToTwips(client.right, dpi_) + kMatchesDesignedFrame.width,
-                        PixelsToTwips(client.bottom, dpi_) + kMatchesDesignedFrame.height});
+                        PixelsToTwips(client.bottom, dpi_) + kMatchesDesignedFrame.height},
+                       AssociateSize());
     Place(Label1, layout.Label1, dpi_);
     Place(lvwItems, layout.lvwItems, dpi_);
     Place(cmdOpen, layout.cmdOpen, dpi_);
@@ -196,6 +199,17 @@ void frmMatches::Form_Resize() {
     // A control moved into ground that was uncovered only now is not always drawn again, nor
     // are the list header's old dividers taken away: everything is drawn afresh.
     RedrawWindow(hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+// The check box with its caption on one line, in twips: the box, a gap and the text.
+TwipsSize frmMatches::AssociateSize() const {
+    const WindowDC dc(chkAssociate);
+    const SelectedObject font(dc.get(), font_.get());
+    const std::wstring caption = Widen(WindowText(chkAssociate));
+    SIZE text{};
+    GetTextExtentPoint32W(dc.get(), caption.c_str(), static_cast<int>(caption.size()), &text);
+    return {PixelsToTwips(text.cx + ScaleForDpi(kCheckBoxPixels, dpi_), dpi_),
+            PixelsToTwips(text.cy, dpi_)};
 }
 
 // A minimized window saves its minimized place and size like any other.
@@ -344,7 +358,7 @@ void frmMatches::CreateControls() {
     AddListColumn(lvwItems, MatchesSort::kLocation, L"Location",
                   TwipsToPixels(kLocationColumnTwips, dpi_));
     chkAssociate = CreateControl(hwnd(), L"BUTTON", "Always associate this word with this item",
-                                 WS_TABSTOP | BS_AUTOCHECKBOX, kMatchesAssociateId);
+                                 WS_TABSTOP | BS_AUTOCHECKBOX | BS_MULTILINE, kMatchesAssociateId);
     cmdOpen =
         CreateControl(hwnd(), L"BUTTON", "Open", WS_TABSTOP | BS_DEFPUSHBUTTON, kMatchesOpenId);
 }

@@ -14,6 +14,7 @@
 #include "platform/WinHandles.h"
 #include "ui/Window.h"
 #include "ui/matches/MatchRows.h"
+#include "ui/matches/MatchesLayout.h"
 #include "ui/matches/MatchesSort.h"
 #include "ui/matches/ctlIconExtractor.h"
 
@@ -84,6 +85,7 @@ class frmMatches final : public Window {
 
     void CreateControls();
     void ApplyFont();
+    TwipsSize AssociateSize() const;
     void RestorePlace();
     void ShowRow(LVITEMW& item);
     LRESULT DrawRow(NMLVCUSTOMDRAW& draw) const;

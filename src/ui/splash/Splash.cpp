@@ -57,16 +57,16 @@ frmSplash::frmSplash() {
 void frmSplash::Show() {
     dpi_ = ScreenDpi();
     const DWORD style = WS_POPUP | WS_BORDER;
-    RECT frame{0, 0, ScaleForDpi(kClientWidth, dpi_), ScaleForDpi(kClientHeight, dpi_)};
-    AdjustWindowRectEx(&frame, style, FALSE, 0);
+    const SIZE outer = OuterSize(
+        {ScaleForDpi(kClientWidth, dpi_), ScaleForDpi(kClientHeight, dpi_)}, style, 0, dpi_);
     RECT workArea{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &workArea, 0);
 
     WindowSpec layout;
     layout.title = "Quorin";
     layout.style = style;
-    layout.width = frame.right - frame.left;
-    layout.height = frame.bottom - frame.top;
+    layout.width = outer.cx;
+    layout.height = outer.cy;
     layout.x = workArea.left + (workArea.right - workArea.left - layout.width) / 2;
     layout.y = workArea.top + (workArea.bottom - workArea.top - layout.height) / 2;
     Create(kSplashClass, layout);

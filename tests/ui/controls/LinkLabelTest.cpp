@@ -76,6 +76,16 @@ TEST_F(LinkLabelTest, BlueCaptionOnBackColorOrGreyedWhenDisabled) {
     EXPECT_TRUE(Shows(link.hwnd(), GetSysColor(COLOR_GRAYTEXT)));
 }
 
+TEST_F(LinkLabelTest, HighContrastTurnsTheBlueIntoTheHyperlinkColour) {
+    ASSERT_NE(GetSysColor(COLOR_HOTLIGHT), kLinkBlue);
+    OverrideHighContrast(true);
+    const bool hyperlink = Shows(link.hwnd(), GetSysColor(COLOR_HOTLIGHT));
+    const bool blue = Shows(link.hwnd(), kLinkBlue);
+    OverrideHighContrast(std::nullopt);
+    EXPECT_TRUE(hyperlink);
+    EXPECT_FALSE(blue);
+}
+
 TEST_F(LinkLabelTest, DisabledLinkNeitherUnderlinesNorClicks) {
     link.SetEnabled(false);
     Move(2, 2);

@@ -1,18 +1,22 @@
 // A window to look at, not a test: the Options dialog at one of its pages, or the Add New Word
 // dialog, on a scratch program folder with one assigned word, the system's drives and file
-// types, and Alt+Space held by another program. dialogs_shots.sh takes the screenshots.
-// Usage: dialogs_look general|filetypes|words|newword
+// types, and Alt+Space held by another program; or the first-run wizard. dialogs_shots.sh takes
+// the screenshots. QUORIN_HIGH_CONTRAST=1 draws as under high contrast.
+// Usage: dialogs_look general|filetypes|words|newword|wizard
 #include <windows.h>
 
 #include <optional>
 #include <string>
 
 #include "platform/registry/clsRegistry.h"
+#include "support/LookHighContrast.h"
+#include "ui/controls/OleColor.h"
 #include "ui/dialogs/FileChooser.h"
 #include "ui/dialogs/KnownExtensions.h"
 #include "ui/dialogs/SystemDrives.h"
 #include "ui/dialogs/frmNewWord.h"
 #include "ui/dialogs/frmOptions.h"
+#include "ui/dialogs/frmWelcome.h"
 #include "ui/main/MainFakes.h"
 
 namespace quorin::test {
@@ -33,6 +37,10 @@ class Look final : public ProgramFixture {
         settings.Save("Main", "Hotkey", "Alt+Space");
         index.Get().UpdateSettings();
         index.Get().AddWord({"budget", "budget 2026.xls", 0, "BUDGET"});
+        if (what == L"wizard") {
+            frmWelcome wizard({index.Get(), prompter, options, help});
+            return static_cast<int>(wizard.ShowModal(nullptr));
+        }
         if (what == L"newword") {
             frmNewWord dialog({index.Get(), prompter, files, nullptr});
             return static_cast<int>(dialog.ShowModal(nullptr));
@@ -55,6 +63,7 @@ class Look final : public ProgramFixture {
 }  // namespace quorin::test
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
+    quorin::OverrideHighContrast(quorin::test::LookHighContrast());
     quorin::test::Look look;
     return look.Run(commandLine);
 }

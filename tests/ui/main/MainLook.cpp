@@ -1,10 +1,14 @@
 // A window to look at, not a test: the main window shown at one of its panels, with fake
-// services; main_shots.sh takes the screenshots.
-// Usage: main_look 0|1|2|3 (Go, Index, Options, Help)
+// services, or its progress panel as a build shows it; main_shots.sh takes the screenshots.
+// QUORIN_HIGH_CONTRAST=1 draws as under high contrast.
+// Usage: main_look 0|1|2|3|5 (Go, Index, Options, Help, progress)
 #include <windows.h>
 
 #include <string>
 
+#include "platform/Path.h"
+#include "support/LookHighContrast.h"
+#include "ui/controls/OleColor.h"
 #include "ui/controls/ctlTabLabel.h"
 #include "ui/main/MainFakes.h"
 #include "ui/main/clsSysTray.h"
@@ -20,6 +24,11 @@ class Look final : public ProgramFixture {
         frmMain form(MainServices{settings, clock, prompter, shell, index, tray, matches, options,
                                   help, [] { PostQuitMessage(0); }});
         form.Show();
+        if (panel == kProgressPanel) {
+            form.BeginIndexing(JoinPath(ExecutableFolder(), "findfile.avi"));
+            form.SetCounter("895");
+            return MessagePump::Run();
+        }
         // What a click on the tab does: it selects itself, then tells the window.
         const HWND tab = form.Control(kIdTab + panel);
         ctlTabLabel::From(tab)->SetSelected(true);
@@ -36,6 +45,7 @@ class Look final : public ProgramFixture {
 }  // namespace quorin::test
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
+    quorin::OverrideHighContrast(quorin::test::LookHighContrast());
     quorin::test::Look look;
     return look.Run(std::stoi(commandLine));
 }

@@ -9,6 +9,7 @@
 #include "ui/main/IndexSummary.h"
 #include "ui/main/MainLayout.h"
 #include "ui/main/ReindexSchedule.h"
+#include "ui/main/RememberedPlace.h"
 #include "ui/main/TrayCallback.h"
 #include "ui/main/TrayRecord.h"
 
@@ -77,25 +78,48 @@ TEST(TrayCallback, DecodesOnlyGenuineCallbacks) {
     EXPECT_EQ(DecodeTrayCallback(2, WM_LBUTTONUP), TrayAction::None) << "another icon's id";
 }
 
-TEST(MainLayout, TabsTouchAndExitSitsAtTheRightEdgeAtTwoDpis) {
+TEST(MainLayout, ClientFitsTheContentAndExitSitsAtItsRightEdgeAtTwoDpis) {
     const std::vector<int> widths = {30, 45, 55, 40, 35};
-    const MainLayout at96 = ComputeMainLayout(96, widths);
-    EXPECT_EQ(at96.windowWidth, 360);   // 5400 twips
-    EXPECT_EQ(at96.windowHeight, 100);  // 1500 twips
-    EXPECT_EQ(at96.panelTop, 16);       // 240 twips
-    EXPECT_EQ(at96.panelWidth, 360);
-    EXPECT_EQ(at96.tabLefts, (std::vector<int>{0, 30, 75, 130, 360 - 35 - 4}));
+    const MainLayout at96 = ComputeMainLayout(96, widths, 64);
+    EXPECT_EQ(at96.clientWidth, 354);           // 5310 twips
+    EXPECT_EQ(at96.clientHeight, 16 + 64 + 6);  // the tab row, the content and 90 twips
+    EXPECT_EQ(at96.panelTop, 16);
+    EXPECT_EQ(at96.tabLefts, (std::vector<int>{0, 30, 75, 130, 354 - 35 - 4}));
 
     const std::vector<int> doubled = {60, 90, 110, 80, 70};
-    const MainLayout at192 = ComputeMainLayout(192, doubled);
-    EXPECT_EQ(at192.windowWidth, 720);
-    EXPECT_EQ(at192.windowHeight, 200);
-    EXPECT_EQ(at192.panelTop, 32);
-    EXPECT_EQ(at192.tabLefts, (std::vector<int>{0, 60, 150, 260, 720 - 70 - 8}));
+    const MainLayout at192 = ComputeMainLayout(192, doubled, 128);
+    EXPECT_EQ(at192.clientWidth, 708);
+    EXPECT_EQ(at192.clientHeight, 32 + 128 + 12);
+    EXPECT_EQ(at192.tabLefts, (std::vector<int>{0, 60, 150, 260, 708 - 70 - 8}));
+}
 
-    const MainLayout at144 = ComputeMainLayout(144, widths);
-    EXPECT_EQ(at144.windowHeight, 150);
-    EXPECT_EQ(at144.panelTop, 24);
+// A 96 dpi monitor with a 144 dpi one right of it, and one left of it: a place comes back on the
+// monitor it was kept on, also where the other monitor would hold its conversion too.
+TEST(PlaceInPixels, ComesBackOnTheMonitorOfItsDpi) {
+    const std::vector<MonitorDpi> right = {{{0, 0, 1280, 800}, 96}, {{1280, 0, 3200, 1080}, 144}};
+    const std::vector<MonitorDpi> left = {{{0, 0, 1280, 800}, 96}, {{-1920, 0, 0, 1080}, 144}};
+    struct Case {
+        std::vector<MonitorDpi> monitors;
+        POINT twips;
+        int keptDpi;
+        POINT pixels;
+    };
+    const Case kCases[] = {
+        {right, {15000, 3000}, 144, {1500, 300}},  // on the right monitor
+        {right, {15000, 3000}, 96, {1000, 200}},   // the same twips kept on the left one
+        {right, {30000, 0}, 96, {3000, 0}},        // only the 144 dpi monitor holds it
+        {right, {3000, 1500}, 0, {200, 100}},      // kept before the DPI was kept
+        {left, {-15000, 4500}, 144, {-1500, 450}},
+        {left, {-15000, 4500}, 96, {-1500, 450}},    // the 96 dpi conversion lies off every monitor
+        {right, {-3000, 90000}, 144, {-300, 9000}},  // off every monitor: at the fallback DPI
+    };
+    for (const Case& c : kCases) {
+        const POINT pixels = PlaceInPixels(c.twips, c.keptDpi, c.monitors, 144);
+        EXPECT_EQ(pixels.x, c.pixels.x)
+            << c.twips.x << ", " << c.twips.y << " kept at " << c.keptDpi;
+        EXPECT_EQ(pixels.y, c.pixels.y)
+            << c.twips.x << ", " << c.twips.y << " kept at " << c.keptDpi;
+    }
 }
 
 TEST(ReindexSchedule, RebuildsOnlyAfterAFullDay) {

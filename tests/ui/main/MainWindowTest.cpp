@@ -47,9 +47,13 @@ TEST_F(MainWindowTest, LoadsHiddenWithTabsPanelsAndEveryText) {
     Load();
     EXPECT_FALSE(IsWindowVisible(Window()));
     EXPECT_EQ(WindowText(Window()), "Quorin");
-    const RECT frame = ScreenRect(Window());
-    EXPECT_EQ(Twips(frame.bottom - frame.top, Window()), 1500);
-    EXPECT_EQ(Twips(frame.right - frame.left, Window()), 5400);
+    RECT client{};
+    GetClientRect(Window(), &client);
+    EXPECT_EQ(Twips(client.right, Window()), 5310);
+    RECT counter = ScreenRect(Control(kIdCounter));
+    MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&counter), 2);
+    EXPECT_EQ(client.bottom - counter.bottom, TwipsToPixels(90, WindowDpi(Window())))
+        << "the lowest control, 90 twips above the bottom edge";
 
     RECT previous = ScreenRect(Control(kIdTab));
     for (int i = 1; i < 4; ++i) {
@@ -59,12 +63,9 @@ TEST_F(MainWindowTest, LoadsHiddenWithTabsPanelsAndEveryText) {
     }
     RECT exitTab = ScreenRect(Control(kIdTab + 4));
     MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&exitTab), 2);
-    EXPECT_EQ(exitTab.left, frame.right - frame.left - (exitTab.right - exitTab.left) -
-                                TwipsToPixels(60, WindowDpi(Window())))
-        << "60 twips from the outer width";
+    EXPECT_EQ(exitTab.right, client.right - TwipsToPixels(60, WindowDpi(Window())))
+        << "60 twips from the right edge";
 
-    RECT client{};
-    GetClientRect(Window(), &client);
     for (int i = 0; i < kPanelCount; ++i) {
         HWND panel = GetDlgItem(Window(), kIdPanel + i);
         RECT place = ScreenRect(panel);

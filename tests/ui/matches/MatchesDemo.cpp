@@ -2,11 +2,13 @@
 // small hand-written index of files of several kinds (programs, registered types, an unknown
 // type). The file types are registered for the occasion and removed again at exit.
 // Usage: matches_demo [seconds]   closes itself after that many seconds when given.
+//        matches_demo min         shows the window at its minimum size.
 
 #include <windows.h>
 
 #include <cwchar>
 #include <memory>
+#include <string_view>
 
 #include "index/clsIndex.h"
 #include "platform/Clock.h"
@@ -62,6 +64,9 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR commandLine, int) {
 
     const HWND window =
         ShowMatches("note", *index.FindMatch("note"), {index, shell, settings, prompter, {}, icon});
+    if (std::wstring_view(commandLine) == L"min") {
+        SetWindowPos(window, nullptr, 0, 0, 1, 1, SWP_NOMOVE | SWP_NOZORDER);
+    }
     if (const auto seconds = std::wcstoul(commandLine, nullptr, 10); seconds > 0) {
         SetTimer(window, 1, static_cast<UINT>(seconds * 1000),
                  [](HWND timed, UINT, UINT_PTR, DWORD) { DestroyWindow(timed); });

@@ -68,6 +68,24 @@ TEST(MatchesLayoutTest, AtTheSmallestSizeNothingOverlaps) {
     EXPECT_LE(smallest.Label1.top + smallest.Label1.height, list.top);
 }
 
+// A caption of 3255 x 210 twips, on one line, does not fit beside Open: the check box goes on a
+// row of its own, two lines tall at the smallest size, one line tall where the window's width
+// holds it; the designed size keeps it beside Open.
+TEST(MatchesLayoutTest, ACheckBoxCaptionTooLongForItsPlaceTakesARowAboveOpen) {
+    const TwipsSize caption{3255, 210};
+    const MatchesLayout smallest = ArrangeMatches({3000, 3000}, caption);
+    const TwipsRect& box = smallest.chkAssociate;
+    EXPECT_EQ(box.width, 3000 - 360);
+    EXPECT_EQ(box.height, 420);
+    EXPECT_EQ(box.top + box.height, smallest.cmdOpen.top);
+    EXPECT_LT(smallest.lvwItems.top + smallest.lvwItems.height, box.top);
+
+    EXPECT_EQ(ArrangeMatches({3800, 3000}, caption).chkAssociate.height, 375);  // one line
+    const MatchesLayout designed = ArrangeMatches(kMatchesDesignedSize, caption);
+    EXPECT_EQ(designed.chkAssociate.top, designed.cmdOpen.top);
+    EXPECT_EQ(designed.lvwItems.height, ArrangeMatches(kMatchesDesignedSize).lvwItems.height);
+}
+
 TEST(MatchesPlaceTest, AWindowIsKeptInsideTheWorkAreaAndShrunkOnlyWhenLarger) {
     const RECT work{0, 0, 1280, 760};
     const auto expectRect = [](const RECT& rect, RECT expected) {

@@ -355,7 +355,9 @@ TEST_F(MatchesWindowTest, KeepsItsPlaceInTwipsAndNeverGetsSmallerThan3000) {
     const RECT open = ControlRect(restored, kMatchesOpenId);
     EXPECT_LE(label.bottom, list.top);
     EXPECT_LE(list.bottom, open.top);
-    EXPECT_LE(check.right, open.left);
+    EXPECT_LE(list.bottom, check.top);
+    RECT overlap{};
+    EXPECT_FALSE(IntersectRect(&overlap, &check, &open));
     EXPECT_LE(TextHeight(GetDlgItem(restored, kMatchesLabelId)), label.bottom - label.top);
     DestroyWindow(restored);
 }

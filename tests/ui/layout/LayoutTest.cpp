@@ -1,0 +1,170 @@
+// Every visible control of every window lies wholly inside its window's client area, whatever
+// frame and DPI the system draws with. at_metrics.sh runs this with the window metrics of
+// Windows 10 and 11 at 96, 144 and 192 dpi.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "WelcomeDialog.h"
+#include "platform/Text.h"
+#include "platform/registry/ScratchClasses.h"
+#include "ui/Dpi.h"
+#include "ui/controls/ctlTabLabel.h"
+#include "ui/dialogs/DialogTestHelpers.h"
+#include "ui/dialogs/frmNewWord.h"
+#include "ui/dialogs/frmOptions.h"
+#include "ui/dialogs/frmWelcome.h"
+#include "ui/help/HelpViewer.h"
+#include "ui/main/MainWindowFixture.h"
+#include "ui/matches/frmMatches.h"
+#include "ui/splash/Splash.h"
+
+namespace quorin::test {
+namespace {
+
+std::string Describe(HWND control, const RECT& rect) {
+    wchar_t className[64] = {};
+    GetClassNameW(control, className, 64);
+    wchar_t text[64] = {};
+    GetWindowTextW(control, text, 64);
+    return Narrow(className) + " " + std::to_string(GetDlgCtrlID(control)) + " \"" + Narrow(text) +
+           "\" at " + std::to_string(rect.left) + "," + std::to_string(rect.top) + "-" +
+           std::to_string(rect.right) + "," + std::to_string(rect.bottom);
+}
+
+// The visible controls, at any depth, that are not wholly inside the window's client area;
+// rectangles in client coordinates.
+std::vector<std::string> ControlsOutside(HWND window) {
+    struct Walk {
+        HWND window;
+        RECT client;
+        std::vector<std::string> outside;
+    } walk{window, {}, {}};
+    GetClientRect(window, &walk.client);
+    EnumChildWindows(
+        window,
+        [](HWND child, LPARAM param) {
+            Walk& found = *reinterpret_cast<Walk*>(param);
+            RECT rect{};
+            GetWindowRect(child, &rect);
+            MapWindowPoints(nullptr, found.window, reinterpret_cast<POINT*>(&rect), 2);
+            RECT joined{};
+            UnionRect(&joined, &rect, &found.client);
+            if (IsWindowVisible(child) && !EqualRect(&joined, &found.client)) {
+                found.outside.push_back(Describe(child, rect));
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&walk));
+    return walk.outside;
+}
+
+// Checks the window as it shows now and prints its sizes for the record.
+void ExpectInside(HWND window, const std::string& what) {
+    RECT client{};
+    GetClientRect(window, &client);
+    RECT frame{};
+    GetWindowRect(window, &frame);
+    std::cout << what << ": client " << client.right << " x " << client.bottom << ", outer "
+              << frame.right - frame.left << " x " << frame.bottom - frame.top << " at "
+              << WindowDpi(window) << " dpi\n";
+    EXPECT_EQ(ControlsOutside(window), std::vector<std::string>{}) << what;
+}
+
+class MainLayoutTest : public MainWindowTest {};
+
+TEST_F(MainLayoutTest, EveryPanelAndTheProgressOfABuild) {
+    tree.WriteFile("sub\\plan.txt", "x");
+    Load().Show();
+    static const char* const kNames[] = {"Go", "Index", "Options", "Help"};
+    for (int tab = kGoPanel; tab <= kHelpPanel; ++tab) {
+        ClickTab(tab);
+        ExpectInside(Window(), std::string("main window, ") + kNames[tab]);
+    }
+    // What the Exit tab shows while the program unloads.
+    ShowWindow(GetDlgItem(Window(), kIdPanel + int{kExitPanel}), SW_SHOW);
+    ExpectInside(Window(), "main window, Exit");
+    ShowWindow(GetDlgItem(Window(), kIdPanel + int{kExitPanel}), SW_HIDE);
+
+    bool checked = false;
+    events.onEvents = [&] {
+        if (!checked && PanelShown(kProgressPanel)) {
+            checked = true;
+            ExpectInside(Window(), "main window, progress");
+        }
+    };
+    Build();
+    EXPECT_TRUE(checked);
+}
+
+TEST_F(ProgramFixture, MatchesAtItsDesignedAndMinimumSizes) {
+    frmMatches& form = frmMatches::Load({index.Get(), shell, settings, prompter, [] {}, nullptr});
+    form.Word("plan");
+    form.Show();
+    ExpectInside(form.hwnd(), "Matches, designed size");
+    SetWindowPos(form.hwnd(), nullptr, 0, 0, 10, 10, SWP_NOMOVE | SWP_NOZORDER);
+    ExpectInside(form.hwnd(), "Matches, minimum size");
+    DestroyWindow(form.hwnd());
+}
+
+TEST_F(ProgramFixture, WizardAtEachPageAndItsProgress) {
+    ScratchClasses classes;
+    tree.WriteFile("sub\\plan.txt", "x");
+    frmWelcome wizard{WelcomeServices{index.Get(), prompter, options, help}};
+    wizard.ShowModeless(nullptr);
+    for (int page = 0; page < kWelcomePageCount; ++page) {
+        const HWND tab = GetDlgItem(wizard.hwnd(), IDC_WELCOME_TAB0 + page);
+        SendMessageW(tab, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+        SendMessageW(tab, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+        ExpectInside(wizard.hwnd(), "wizard, page " + std::to_string(page + 1));
+    }
+    bool checked = false;
+    events.onEvents = [&] {
+        if (!checked && IsWindowVisible(GetDlgItem(wizard.hwnd(), IDC_WELCOME_COUNTER))) {
+            checked = true;
+            ExpectInside(wizard.hwnd(), "wizard, progress");
+        }
+    };
+    SendMessageW(wizard.hwnd(), WM_COMMAND, MAKEWPARAM(IDC_WELCOME_FINISH, kLabelClick),
+                 reinterpret_cast<LPARAM>(GetDlgItem(wizard.hwnd(), IDC_WELCOME_FINISH)));
+    EXPECT_TRUE(checked);
+}
+
+TEST_F(ProgramFixture, OptionsAtEachPageAndAddNewWord) {
+    FakeFileChooser files;
+    frmOptions dialog{
+        OptionsServices{index.Get(), settings, prompter, help, files,
+                        DriveSource{[] { return std::vector<std::string>{"c: [SYSTEM]"}; },
+                                    [](const std::string&) { return 3u; }},
+                        [] {
+                            return std::vector<std::string>{".doc", ".txt"};
+                        },
+                        [] {}, nullptr, nullptr, nullptr}};
+    static const char* const kPages[] = {"General", "File Types", "Words"};
+    for (int page = kOptionsGeneral; page <= kOptionsWords; ++page) {
+        dialog.Panel(page);
+        dialog.ShowModeless(nullptr);
+        ExpectInside(dialog.hwnd(), std::string("Options, ") + kPages[page]);
+    }
+    frmNewWord newWord{NewWordServices{index.Get(), prompter, files, nullptr}};
+    newWord.ShowModeless(nullptr);
+    ExpectInside(newWord.hwnd(), "Add New Word");
+}
+
+TEST(Layout, HelpWindowAndSplash) {
+    HelpViewer help;
+    help.ShowTopic({10, "Using Quorin", {{HelpBlockKind::Paragraph, "Type a word."}}},
+                   {100, 100, 740, 500});
+    ExpectInside(FindWindowW(kHelpViewerClass, nullptr), "help window");
+    frmSplash splash;
+    splash.Show();
+    ExpectInside(FindWindowW(kSplashClass, nullptr), "splash");
+}
+
+}  // namespace
+}  // namespace quorin::test

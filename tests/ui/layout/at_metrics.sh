@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Runs a test program in a Wine prefix of its own with the window metrics of Windows 10 and 11
+# (a 23 px caption and a 4 px padded border at 96 dpi) at one DPI.
+# Usage: at_metrics.sh TEST_EXE PREFIX DPI
+set -euo pipefail
+exe=$1
+prefix=$2
+dpi=$3
+here=$(cd "$(dirname "$0")/../../.." && pwd)
+export WINEPREFIX=$prefix
+bash "$here/tests/support/set_metrics.sh" "$prefix" "$dpi"
+trap 'wineserver -k 2>/dev/null || true' EXIT
+"$here/scripts/wine-test" --prefix "$prefix" "$exe"
