@@ -1,6 +1,6 @@
 // A window to look at, not a test: the Options dialog at one of its pages, or the Add New Word
 // dialog, on a scratch program folder with one assigned word, the system's drives and file
-// types, and Alt+Space held by another program. dialogs_shots.sh takes the screenshots.
+// types, and Alt+Space held by another program. shots.sh takes the screenshots.
 // Usage: dialogs_look general|filetypes|words|newword
 #include <windows.h>
 

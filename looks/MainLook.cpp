@@ -1,5 +1,5 @@
 // A window to look at, not a test: the main window shown at one of its panels, with fake
-// services; main_shots.sh takes the screenshots.
+// services; shots.sh takes the screenshots.
 // Usage: main_look 0|1|2|3 (Go, Index, Options, Help)
 #include <windows.h>
 

@@ -1,38 +1,98 @@
 #!/usr/bin/env bash
-# Screenshots of a look program's windows at 100 % and 150 % (not run by CTest). Each SHOT is
-# ARGUMENT=TITLE=NAME: the program is started with ARGUMENT, the window titled TITLE is taken
-# as OUT_FOLDER/NAME-<dpi>.png, and the program is ended.
-# Usage: scripts/with-xvfb bash tests/support/look_shots.sh LOOK_EXE WORK_FOLDER OUT_FOLDER SHOT...
+# Screenshots of the look programs under Wine (not run by CTest): each LOOK's windows at 100 % and
+# 150 %, or for exit_panel the shutdown panel once, as <build root>/looks/shots/<name>[-<dpi>].png.
+# The programs come from the win build (scripts/build win; QUORIN_BUILD_ROOT as for it).
+# Usage: scripts/with-xvfb looks/shots.sh LOOK...
+#   LOOK: app controls dialogs exit_panel icon main matches
 set -euo pipefail
-look=$1
-work=$2
-out=$3
-shift 3
-here=$(cd "$(dirname "$0")/../.." && pwd)
+here=$(cd "$(dirname "$0")/.." && pwd)
+root=$(cd "$here" && realpath -m "${QUORIN_BUILD_ROOT:-build}")
+programs=$root/win/looks
+work=$root/looks
+out=$work/shots
 : "${DISPLAY:?needs an X display}"
+[ $# -gt 0 ] || { sed -n '5,6s/^# //p' "$0" >&2; exit 2; }
 export WINEDEBUG=-all
 export WINEDLLOVERRIDES="mscoree,mshtml="
 mkdir -p "$out"
+stop() { wineserver -k 2>/dev/null || true; }
+trap stop EXIT
 
-for dpi in 96 144; do
-    export WINEPREFIX=$work/prefix-$dpi
+# A Wine prefix at DPI with the window metrics of Windows 10/11.
+prefix() {
+    export WINEPREFIX=$work/prefix-$1
+    [ -d "$WINEPREFIX" ] && return
     "$here/scripts/wine-run" --prefix "$WINEPREFIX" cmd /c exit >/dev/null 2>&1 || true
-    wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f >/dev/null
+    wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f >/dev/null
+    local metrics='HKCU\Control Panel\Desktop\WindowMetrics'
+    wine reg add "$metrics" /v CaptionHeight /t REG_SZ /d -345 /f >/dev/null
+    wine reg add "$metrics" /v PaddedBorderWidth /t REG_SZ /d -60 /f >/dev/null
     wineserver -w
-    for shot in "$@"; do
-        IFS== read -r argument title name <<<"$shot"
-        wine "Z:${look//\//\\}" "$argument" &
-        window=""
-        for _ in $(seq 60); do
-            window=$(xdotool search --name "^$title\$" 2>/dev/null | head -1) && [ -n "$window" ] && break
-            sleep 0.5
+}
+
+# PROGRAM SHOT...: each SHOT is ARGUMENT=TITLE=NAME; the program is started with ARGUMENT, the
+# window titled TITLE is taken as NAME-<dpi>.png, and the program is ended.
+windows() {
+    local look=$programs/$1.exe
+    shift
+    for dpi in 96 144; do
+        prefix "$dpi"
+        for shot in "$@"; do
+            IFS== read -r argument title name <<<"$shot"
+            wine "Z:${look//\//\\}" "$argument" &
+            window=""
+            for _ in $(seq 60); do
+                window=$(xdotool search --name "^$title\$" 2>/dev/null | head -1) &&
+                    [ -n "$window" ] && break
+                sleep 0.5
+            done
+            [ -n "$window" ] || { echo "FAIL: no $title window" >&2; exit 1; }
+            sleep 2
+            # Without a window manager the shot is the window's client area.
+            import -display "$DISPLAY" -window "$window" "$out/$name-$dpi.png"
+            wineserver -k || true
+            wait || true
         done
-        [ -n "$window" ] || { echo "FAIL: no $title window" >&2; exit 1; }
-        sleep 2
-        # Without a window manager the shot is the window's client area.
-        import -display "$DISPLAY" -window "$window" "$out/$name-$dpi.png"
-        wineserver -k || true
-        wait || true
     done
+}
+
+# The main window held on its shutdown panel, centred on a 1280x800 desktop, in a prefix of its
+# own: exit_panel_look creates MARKS\shown once the panel is painted and goes on at MARKS\taken.
+exitPanel() {
+    local look=$programs/exit_panel_look.exe
+    export WINEPREFIX=$work/prefix-exit
+    "$here/scripts/wine-run" --prefix "$WINEPREFIX" cmd /c exit >/dev/null 2>&1 || true
+    local marks=$work/marks
+    rm -rf "$marks"
+    mkdir -p "$marks"
+    xdotool mousemove 640 200
+    wine explorer /desktop=quorin,1280x800 "Z:${look//\//\\}" "Z:${marks//\//\\}" &
+    for _ in $(seq 60); do
+        [ -f "$marks/shown" ] && break
+        sleep 0.5
+    done
+    [ -f "$marks/shown" ] || { echo "FAIL: the shutdown panel was never shown" >&2; exit 1; }
+    sleep 1
+    import -display "$DISPLAY" -window root "$work/exit-full.png"
+    touch "$marks/taken"
+    convert "$work/exit-full.png" -crop 380x120+450+340 +repage "$out/exit-panel.png"
+    wineserver -w
+}
+
+for look in "$@"; do
+    case $look in
+        app) windows app_demo splash=Quorin=splash "help=Quorin Help=help" \
+            animation=Indexing=animation ;;
+        controls) windows controls_demo =Quorin=controls ;;
+        dialogs) windows dialogs_look general=Options=options-general \
+            filetypes=Options=options-filetypes words=Options=options-words \
+            "newword=Add New Word=options-newword" ;;
+        exit_panel) exitPanel ;;
+        icon) windows icon_look "60=Icon extractor=icon-extractor" ;;
+        main) windows main_look 0=Quorin=main-go 1=Quorin=main-index 2=Quorin=main-options \
+            3=Quorin=main-help ;;
+        matches) windows matches_demo "60=Multiple Matches=matches" ;;
+        *) echo "unknown look: $look" >&2; exit 2 ;;
+    esac
 done
 ls "$out"
