@@ -51,7 +51,7 @@ void frmOptions::ShowAllFoldersOption() {
 }
 
 bool frmOptions::OnInit() {
-    SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(services_.icon));
+    SetIcon(services_.icon);
     TabStrip1 = Item(IDC_OPTIONS_TABS);
     for (int i = 0; i < kOptionsPageCount; ++i) {
         TCITEMW tab{};
