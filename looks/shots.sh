@@ -3,7 +3,7 @@
 # 150 %, or for exit_panel the shutdown panel once, as <build root>/looks/shots/<name>[-<dpi>].png.
 # The programs come from the win build (scripts/build win; QUORIN_BUILD_ROOT as for it).
 # Usage: scripts/with-xvfb looks/shots.sh LOOK...
-#   LOOK: app controls dialogs exit_panel icon main matches
+#   LOOK: app controls dialogs exit_panel icon index_panel main matches
 set -euo pipefail
 here=$(cd "$(dirname "$0")/.." && pwd)
 root=$(cd "$here" && realpath -m "${QUORIN_BUILD_ROOT:-build}")
@@ -79,6 +79,33 @@ exitPanel() {
     wineserver -w
 }
 
+# The Index panel after a build, folders left out ("limit") and every folder indexed ("all"),
+# framed on a desktop: index_panel_look writes the window's place to MARKS\place.
+indexPanel() {
+    local look=$programs/index_panel_look.exe
+    for dpi in 96 144; do
+        prefix "$dpi"
+        for mode in limit all; do
+            local marks=$work/marks-$dpi-$mode
+            rm -rf "$marks"
+            mkdir -p "$marks"
+            wine explorer /desktop=quorin,1280x800 "Z:${look//\//\\}" "$mode" "Z:${marks//\//\\}" &
+            for _ in $(seq 120); do
+                [ -s "$marks/place" ] && break
+                sleep 0.5
+            done
+            [ -s "$marks/place" ] || { echo "FAIL: no Index panel ($mode, $dpi dpi)" >&2; exit 1; }
+            sleep 2
+            import -display "$DISPLAY" -window root "$work/full.png"
+            # The window with its frame, as Windows draws it on the desktop.
+            convert "$work/full.png" -crop "$(tr -d '\r\n' <"$marks/place")" +repage \
+                "$out/index-panel-$mode-$dpi.png"
+            wineserver -k || true
+            wait || true
+        done
+    done
+}
+
 for look in "$@"; do
     case $look in
         app) windows app_demo splash=Quorin=splash "help=Quorin Help=help" \
@@ -89,6 +116,7 @@ for look in "$@"; do
             "newword=Add New Word=options-newword" ;;
         exit_panel) exitPanel ;;
         icon) windows icon_look "60=Icon extractor=icon-extractor" ;;
+        index_panel) indexPanel ;;
         main) windows main_look 0=Quorin=main-go 1=Quorin=main-index 2=Quorin=main-options \
             3=Quorin=main-help ;;
         matches) windows matches_demo "60=Multiple Matches=matches" ;;
