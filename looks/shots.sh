@@ -56,22 +56,30 @@ windows() {
     done
 }
 
+# Starts the look PROGRAM with ARGUMENTs on a 1280x800 Wine desktop and waits up to a minute for
+# MARK, a file the program writes once its window is painted.
+onDesktop() {  # MARK PROGRAM ARGUMENT...
+    local mark=$1 look=$programs/$2.exe
+    shift 2
+    wine explorer /desktop=quorin,1280x800 "Z:${look//\//\\}" "$@" &
+    for _ in $(seq 120); do
+        [ -e "$mark" ] && return 0
+        sleep 0.5
+    done
+    echo "FAIL: no ${mark##*/} from $look" >&2
+    exit 1
+}
+
 # The main window held on its shutdown panel, centred on a 1280x800 desktop, in a prefix of its
 # own: exit_panel_look creates MARKS\shown once the panel is painted and goes on at MARKS\taken.
 exitPanel() {
-    local look=$programs/exit_panel_look.exe
     export WINEPREFIX=$work/prefix-exit
     "$here/scripts/wine-run" --prefix "$WINEPREFIX" cmd /c exit >/dev/null 2>&1 || true
     local marks=$work/marks
     rm -rf "$marks"
     mkdir -p "$marks"
     xdotool mousemove 640 200
-    wine explorer /desktop=quorin,1280x800 "Z:${look//\//\\}" "Z:${marks//\//\\}" &
-    for _ in $(seq 60); do
-        [ -f "$marks/shown" ] && break
-        sleep 0.5
-    done
-    [ -f "$marks/shown" ] || { echo "FAIL: the shutdown panel was never shown" >&2; exit 1; }
+    onDesktop "$marks/shown" exit_panel_look "Z:${marks//\//\\}"
     sleep 1
     import -display "$DISPLAY" -window root "$work/exit-full.png"
     touch "$marks/taken"
@@ -82,19 +90,13 @@ exitPanel() {
 # The Index panel after a build, folders left out ("limit") and every folder indexed ("all"),
 # framed on a desktop: index_panel_look writes the window's place to MARKS\place.
 indexPanel() {
-    local look=$programs/index_panel_look.exe
     for dpi in 96 144; do
         prefix "$dpi"
         for mode in limit all; do
             local marks=$work/marks-$dpi-$mode
             rm -rf "$marks"
             mkdir -p "$marks"
-            wine explorer /desktop=quorin,1280x800 "Z:${look//\//\\}" "$mode" "Z:${marks//\//\\}" &
-            for _ in $(seq 120); do
-                [ -s "$marks/place" ] && break
-                sleep 0.5
-            done
-            [ -s "$marks/place" ] || { echo "FAIL: no Index panel ($mode, $dpi dpi)" >&2; exit 1; }
+            onDesktop "$marks/place" index_panel_look "$mode" "Z:${marks//\//\\}"
             sleep 2
             import -display "$DISPLAY" -window root "$work/full.png"
             # The window with its frame, as Windows draws it on the desktop.
