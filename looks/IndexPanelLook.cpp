@@ -1,6 +1,6 @@
 // A window to look at, not a test: the main window at its Index panel after a build whose
 // folders the 5,001-slot table partly left out ("limit") or that indexed every folder ("all").
-// index_panel_shots.sh takes the screenshots.
+// shots.sh takes the screenshots.
 // Usage: index_panel_look limit|all MARKS_FOLDER (the window's place goes to MARKS_FOLDER\place)
 #include <windows.h>
 

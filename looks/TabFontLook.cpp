@@ -3,9 +3,7 @@
 // font reports. Under Wine 8 the bold face reports weight 700 and takes more room, but from 13 px
 // up (the tab font at 144 dpi is 17 px) its strokes are drawn as thin as the regular ones; only
 // the 11 px face (96 dpi) is drawn bold. Taken as
-// docs/screenshots/wine-tab-font-96.png by (one line)
-//   DPIS=96 scripts/with-xvfb bash tests/support/look_shots.sh build/win/looks/tab_font_look.exe
-//       /tmp/fonts docs/screenshots 0="Tahoma bold"=wine-tab-font
+// docs/screenshots/wine-tab-font-96.png by `DPIS=96 scripts/with-xvfb looks/shots.sh tab_font`.
 #include <windows.h>
 
 #include <string>

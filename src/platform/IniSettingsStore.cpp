@@ -2,6 +2,7 @@
 
 #include "platform/Errors.h"
 #include "platform/FileSystem.h"
+#include "platform/Text.h"
 #include "platform/TextFile.h"
 
 #include <system_error>
@@ -9,28 +10,18 @@
 namespace quorin {
 namespace {
 
-constexpr std::string_view kBlanks = " \t";
-
-std::string_view Trim(std::string_view text) {
-    const size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
 bool HasLineBreak(std::string_view text) {
     return text.find_first_of("\r\n") != std::string_view::npos;
 }
 
 // True when the name reads back unchanged from its line of the file.
 bool IsStorableKey(std::string_view key) {
-    return !key.empty() && Trim(key) == key && !HasLineBreak(key) &&
+    return !key.empty() && TrimBlanks(key) == key && !HasLineBreak(key) &&
            key.find('=') == std::string_view::npos && key.find_first_of(";#[") != 0;
 }
 
 bool IsStorableSection(std::string_view section) {
-    return !section.empty() && Trim(section) == section && !HasLineBreak(section);
+    return !section.empty() && TrimBlanks(section) == section && !HasLineBreak(section);
 }
 
 }  // namespace
@@ -62,18 +53,19 @@ void IniSettingsStore::Load() {
     std::string line;
     std::string section;
     for (int lineNumber = 1; reader.ReadLine(line); ++lineNumber) {
-        const std::string_view trimmed = Trim(line);
+        const std::string_view trimmed = TrimBlanks(line);
         if (trimmed.empty() || trimmed.front() == ';' || trimmed.front() == '#') {
             continue;
         }
         if (trimmed.front() == '[' && trimmed.back() == ']' && trimmed.size() > 2) {
-            section = Trim(trimmed.substr(1, trimmed.size() - 2));
+            section = TrimBlanks(trimmed.substr(1, trimmed.size() - 2));
             continue;
         }
         const std::string_view text(line);
         const size_t equals = text.find('=');
-        const std::string_view key =
-            equals == std::string_view::npos ? std::string_view() : Trim(text.substr(0, equals));
+        const std::string_view key = equals == std::string_view::npos
+                                         ? std::string_view()
+                                         : TrimBlanks(text.substr(0, equals));
         if (section.empty() || key.empty()) {
             throw FileError("Line " + std::to_string(lineNumber) + " of the settings file \"" +
                             path_ + "\" is neither a [section] header nor a key=value line.");

@@ -5,23 +5,10 @@
 #include <cmath>
 #include <cstdint>
 
+#include "platform/Text.h"
+
 namespace quorin {
 namespace {
-
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
-
-// Every record number of "index.txt" passes here, so no find_first_not_of with its call per byte.
-std::string_view TrimBlanks(std::string_view text) {
-    while (!text.empty() && IsBlank(text.front())) {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && IsBlank(text.back())) {
-        text.remove_suffix(1);
-    }
-    return text;
-}
 
 // from_chars takes a minus sign but not a plus sign.
 std::string_view DropPlusSign(std::string_view text) {

@@ -5,11 +5,12 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "platform/Text.h"
+
 namespace quorin {
 namespace {
 
 constexpr int kSecondsPerDay = 24 * 60 * 60;
-constexpr std::string_view kBlanks = " \t";
 
 // Days since 1970-01-01 of a proleptic Gregorian date (H. Hinnant's algorithm).
 std::int64_t DaysFromCivil(std::int64_t year, int month, int day) {
@@ -59,14 +60,6 @@ bool ReadField(std::string_view text, size_t pos, size_t digits, int min, int ma
         value = value * 10 + (text[i] - '0');
     }
     return value >= min && value <= max;
-}
-
-std::string_view TrimBlanks(std::string_view text) {
-    const size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
 }  // namespace

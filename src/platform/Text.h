@@ -18,4 +18,16 @@ std::string AnsiToUtf8(std::string_view bytes);
 // Unicode-aware upper case of a UTF-8 text, character by character ("é" gives "É").
 std::string ToUpper(std::string_view utf8);
 
+// The text without the BLANKS at either end. Inline and without find_first_not_of, since every
+// record number of "index.txt" passes here.
+inline std::string_view TrimBlanks(std::string_view text, std::string_view blanks = " \t") {
+    while (!text.empty() && blanks.find(text.front()) != std::string_view::npos) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && blanks.find(text.back()) != std::string_view::npos) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
 }  // namespace quorin

@@ -49,6 +49,11 @@ RECT Window::RectInParent(HWND child) {
     return rect;
 }
 
+void Window::SetIcon(HICON icon) const {
+    SendMessageW(hwnd_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
+    SendMessageW(hwnd_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon));
+}
+
 HWND Window::CreateControl(HWND parent, const wchar_t* className, std::string_view text,
                            DWORD style, int id, DWORD exStyle) {
     return CreateHandle(className,

@@ -82,6 +82,9 @@ class Window {
     // CreateWindowExW with these values; `param` reaches WM_NCCREATE. Throws Error on failure.
     static HWND CreateHandle(const wchar_t* className, const WindowSpec& layout, void* param);
 
+    // The icon of the caption and of the task switcher; the caller keeps it alive.
+    void SetIcon(HICON icon) const;
+
     // The object bound to a window. Only for windows whose class uses one of the procedures
     // above: any other window keeps something else in its user data.
     static Window* FromHandle(HWND hwnd);

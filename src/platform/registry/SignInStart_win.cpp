@@ -5,20 +5,8 @@
 
 namespace quorin {
 
-namespace {
-
-std::string_view Trimmed(std::string_view text) {
-    const size_t first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
-}  // namespace
-
 bool IsSignInStart(std::string_view arguments) {
-    const std::string_view argument = Trimmed(arguments);
+    const std::string_view argument = TrimBlanks(arguments);
     if (argument.size() != kSignInSwitch.size()) {
         return false;
     }

@@ -17,8 +17,7 @@ frmNewWord::frmNewWord(NewWordServices services)
 bool frmNewWord::OnInit() {
     txtWord = Item(IDC_NEWWORD_WORD);
     txtFilename = Item(IDC_NEWWORD_FILENAME);
-    SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(services_.icon));
-    SendMessageW(hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(services_.icon));
+    SetIcon(services_.icon);
     return true;
 }
 

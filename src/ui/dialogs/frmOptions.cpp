@@ -53,7 +53,7 @@ void frmOptions::ShowAllFoldersOption() {
 }
 
 bool frmOptions::OnInit() {
-    SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(services_.icon));
+    SetIcon(services_.icon);
     TabStrip1 = Item(IDC_OPTIONS_TABS);
     // The system's padding is in pixels; scaled like the font, the captions keep clear of the
     // tabs' edges at any DPI.

@@ -89,8 +89,7 @@ void frmWelcome::Form_Load() {
     lblCounter = Item(IDC_WELCOME_COUNTER);
 
     icon_ = SmallProgramIcon(IDI_QUORIN);
-    SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.get()));
-    SendMessageW(hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon_.get()));
+    SetIcon(icon_.get());
 
     SetText(Item(IDC_WELCOME_WELCOME), WelcomeText());
     PlaceAfterText(Item(IDC_WELCOME_DRIVES_TEXT), Item(IDC_WELCOME_DRIVES));

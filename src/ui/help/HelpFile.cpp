@@ -4,6 +4,7 @@
 
 #include "platform/Errors.h"
 #include "platform/Path.h"
+#include "platform/Text.h"
 #include "platform/TextFile.h"
 
 namespace quorin {
@@ -16,17 +17,11 @@ constexpr std::string_view kBulletMark = "- ";
 constexpr std::string_view kHeadingMark = "## ";
 constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
 
-std::string_view Trim(std::string_view text, std::string_view blanks = " \t\r") {
-    const size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
+constexpr std::string_view kLineBlanks = " \t\r";
 
 // Reads "<number> <title>" after the header word; false when there is no number.
 bool ParseHeader(std::string_view rest, HelpTopic& topic) {
-    rest = Trim(rest);
+    rest = TrimBlanks(rest, kLineBlanks);
     const auto [end, error] =
         std::from_chars(rest.data(), rest.data() + rest.size(), topic.context);
     if (error != std::errc() || end == rest.data()) {
@@ -36,7 +31,7 @@ bool ParseHeader(std::string_view rest, HelpTopic& topic) {
     if (!title.empty() && title.front() != ' ' && title.front() != '\t') {
         return false;  // "10abc" is not a number
     }
-    topic.title = Trim(title);
+    topic.title = TrimBlanks(title, kLineBlanks);
     return true;
 }
 
@@ -49,7 +44,7 @@ class TopicBuilder {
             (line.size() == kTopicHeader.size() || line[kTopicHeader.size()] == ' ')) {
             Header(line.substr(kTopicHeader.size()));
         } else if (current_ != nullptr && !line.starts_with("# ") && line != "#") {
-            BodyLine(Trim(line));
+            BodyLine(TrimBlanks(line, kLineBlanks));
         }
     }
 
@@ -80,7 +75,7 @@ class TopicBuilder {
     }
 
     void Start(HelpBlockKind kind, std::string_view text) {
-        current_->blocks.push_back({kind, std::string(Trim(text))});
+        current_->blocks.push_back({kind, std::string(TrimBlanks(text, kLineBlanks))});
         open_ = true;
     }
 
@@ -123,7 +118,7 @@ const HelpTopic* FindHelpTopic(const std::vector<HelpTopic>& topics, int context
 }
 
 std::string HelpFilePath(std::string_view programFolder) {
-    const std::string_view folder = Trim(programFolder, " ");
+    const std::string_view folder = TrimBlanks(programFolder, " ");
     if (folder.ends_with(kPathSeparator)) {
         return std::string(folder).append(kHelpFileName);
     }

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/SettingsStore.h"
+#include "platform/Text.h"
 
 namespace quorin {
 
@@ -62,14 +63,6 @@ constexpr std::array<std::pair<unsigned, std::string_view>, 37> kKeyNames = {{
     {VK_CANCEL, "Break"},
     {VK_SCROLL, "ScrollLock"},
 }};
-
-std::string_view Trimmed(std::string_view text) {
-    const size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 bool SameText(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) {
@@ -147,7 +140,7 @@ unsigned TakeModifier(std::string_view& text) {
         return 0;
     }
     for (const auto& [flag, name] : kModifierNames) {
-        if (SameText(Trimmed(text.substr(0, plus)), name)) {
+        if (SameText(TrimBlanks(text.substr(0, plus), " "), name)) {
             text.remove_prefix(plus + 1);
             return flag;
         }
@@ -175,7 +168,7 @@ std::optional<Hotkey> ParseHotkey(std::string_view text) {
         }
         hotkey.modifiers |= flag;
     }
-    const auto key = KeyCode(Trimmed(text));
+    const auto key = KeyCode(TrimBlanks(text, " "));
     if (!key || (hotkey.modifiers & ~static_cast<unsigned>(MOD_SHIFT)) == 0) {
         return std::nullopt;
     }
@@ -185,7 +178,7 @@ std::optional<Hotkey> ParseHotkey(std::string_view text) {
 
 std::optional<Hotkey> LoadHotkey(const SettingsStore& settings) {
     const std::string text = settings.Get(kSection, kKey, kDefaultHotkeyText);
-    if (Trimmed(text).empty()) {
+    if (TrimBlanks(text, " ").empty()) {
         return std::nullopt;
     }
     if (const auto hotkey = ParseHotkey(text)) {

@@ -59,8 +59,7 @@ frmMain::~frmMain() {
 void frmMain::Form_Load() {
     icon_ = SmallProgramIcon(IDI_QUORIN);
     indexingIcon_ = SmallProgramIcon(IDI_INDEXING);
-    SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.get()));
-    SendMessageW(hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon_.get()));
+    SetIcon(icon_.get());
     services_.help.Setup(hwnd());
     CreateControls();
     LayOut();

@@ -167,8 +167,7 @@ void frmMatches::Form_Load(const MatchesHost& host) {
     ctlIconExtractor1.ImageListLarge(imlSmall.get());
     ListView_SetImageList(lvwItems, imlSmall.get(), LVSIL_SMALL);
 
-    SendMessageW(hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(host.icon));
-    SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(host.icon));
+    SetIcon(host.icon);
 }
 
 // The offsets were drawn for a window measured with the designed frame; see MatchesLayout.h.

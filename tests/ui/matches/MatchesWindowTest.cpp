@@ -427,8 +427,10 @@ std::string ManyName(int i) {
     return std::string(kStems[i % 10]) + " " + std::to_string((i * 7919) % 1000) + ".qzx";
 }
 
-TEST_F(MatchesWindowTest, AHundredThousandRowsShowCountSortAndAssociateByPosition) {
-    constexpr int kRows = 100000;
+// A thousand rows are enough for the order and the positions; scripts/bench-ui times the window
+// with 100,000.
+TEST_F(MatchesWindowTest, AThousandRowsShowCountSortAndAssociateByPosition) {
+    constexpr int kRows = 1000;
     auto items = std::make_shared<IndexItems>();
     std::vector<int32_t> positions;
     for (int i = 0; i < kRows; ++i) {
@@ -443,7 +445,7 @@ TEST_F(MatchesWindowTest, AHundredThousandRowsShowCountSortAndAssociateByPositio
 
     wchar_t label[200] = {};
     GetWindowTextW(GetDlgItem(form, kMatchesLabelId), label, 200);
-    EXPECT_EQ(Narrow(label), "100000 matches found. Please choose from the following.");
+    EXPECT_EQ(Narrow(label), "1000 matches found. Please choose from the following.");
     ASSERT_EQ(ListView_GetItemCount(list), kRows);
     EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_SELECTED), 0);
     const auto text = [list](int row, int column) {
@@ -478,7 +480,7 @@ TEST_F(MatchesWindowTest, AHundredThousandRowsShowCountSortAndAssociateByPositio
     expectSorted(0, -1, "by Name, descending");
 
     // The word goes to the match at the selected row's position; the row's own file opens.
-    const int row = 12345;
+    const int row = 567;
     const std::string shown = Narrow(text(row, 0));
     const std::string folder = Narrow(text(row, 1));
     SelectRow(list, row);

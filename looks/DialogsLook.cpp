@@ -1,7 +1,7 @@
 // A window to look at, not a test: the Options dialog at one of its pages, or the Add New Word
 // dialog, on a scratch program folder with one assigned word, the system's drives and file
-// types, and Alt+Space held by another program; or the first-run wizard. dialogs_shots.sh takes
-// the screenshots. QUORIN_HIGH_CONTRAST=1 draws as under high contrast.
+// types, and Alt+Space held by another program; or the first-run wizard. shots.sh takes the
+// screenshots. QUORIN_HIGH_CONTRAST=1 draws as under high contrast.
 // Usage: dialogs_look general|filetypes|words|newword|wizard
 #include <windows.h>
 
@@ -9,7 +9,7 @@
 #include <string>
 
 #include "platform/registry/clsRegistry.h"
-#include "support/LookHighContrast.h"
+#include "LookHighContrast.h"
 #include "ui/controls/OleColor.h"
 #include "ui/dialogs/FileChooser.h"
 #include "ui/dialogs/KnownExtensions.h"

@@ -1,5 +1,5 @@
 // A window to look at, not a test: the main window shown at one of its panels, with fake
-// services, or its progress panel as a build shows it; main_shots.sh takes the screenshots.
+// services, or its progress panel as a build shows it; shots.sh takes the screenshots.
 // QUORIN_HIGH_CONTRAST=1 draws as under high contrast.
 // Usage: main_look 0|1|2|3|5 (Go, Index, Options, Help, progress)
 #include <windows.h>
@@ -7,7 +7,7 @@
 #include <string>
 
 #include "platform/Path.h"
-#include "support/LookHighContrast.h"
+#include "LookHighContrast.h"
 #include "ui/controls/OleColor.h"
 #include "ui/controls/ctlTabLabel.h"
 #include "ui/main/MainFakes.h"

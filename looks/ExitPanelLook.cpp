@@ -1,6 +1,6 @@
 // A window to look at, not a test: the main window after a click on its Exit tab, held on the
 // shutdown panel so that a screenshot can be taken (the real unload is over in a moment);
-// exit_panel_shot.sh takes it.
+// shots.sh takes it.
 // Usage: exit_panel_look FOLDER (the whole command line, unquoted). Once the panel is painted it
 // creates FOLDER\shown, then waits for FOLDER\taken (at most 30 seconds) before the unload goes on.
 #include <windows.h>
