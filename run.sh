@@ -57,21 +57,28 @@ exe=$(cd "$run" && pwd)/quorin.exe
 scripts/wine-run --prefix "$prefix" explorer /desktop=quorin,1280x800 "Z:${exe//\//\\}" &
 wine=$!
 
+# The program waits in the notification area, after the wizard as on every later start; a click
+# on its icon shows the main window.
+show_from_tray() {
+    for _ in $(seq 30); do
+        xdotool mousemove 1270 790 click 1
+        wait_for 2 '^Quorin$' && return 0
+    done
+    echo "The main window did not show from the notification area within 60 s." >&2
+}
+
 if [ -n "$virtual" ]; then
     xdotool mousemove 640 200
     if [ -f "$run/index.txt" ]; then
-        # With an index the program starts in the notification area; its icon shows the window.
-        for _ in $(seq 30); do
-            xdotool mousemove 1270 790 click 1
-            wait_for 2 '^Quorin$' && break
-        done
+        show_from_tray
+        import -display "$DISPLAY" -window root "$run/screenshot-start.png"
     else
         wait_for 60 '^Welcome to Quorin$' || echo "Quorin showed no wizard within 60 s." >&2
+        import -display "$DISPLAY" -window root "$run/screenshot-start.png"
+        answer_first_start
+        for _ in $(seq 240); do [ -f "$run/index.txt" ] && break; sleep 0.5; done
+        show_from_tray
     fi
-    import -display "$DISPLAY" -window root "$run/screenshot-start.png"
-    answer_first_start
-    wait_for 120 '^Quorin$' || echo "The main window did not show within 120 s." >&2
-    for _ in $(seq 240); do [ -f "$run/index.txt" ] && break; sleep 0.5; done
     import -display "$DISPLAY" -window root "$run/screenshot.png"
     echo "Screenshots: $run/screenshot-start.png and $run/screenshot.png"
     echo "Quorin keeps running on $DISPLAY; press Ctrl+C to stop it."

@@ -41,6 +41,10 @@ bool Startup::Main() {
                 return false;
             }
             busy.emplace();
+            // Back until the main window has loaded, as on every other start.
+            if (services_.showSplash) {
+                splash.Show();
+            }
         }
         mainForm_ = std::make_unique<frmMain>(
             MainServices{services_.settings, services_.clock, services_.prompter, services_.shell,

@@ -11,6 +11,7 @@
 #include "ui/dialogs/DialogTestHelpers.h"
 #include "ui/dialogs/frmWelcome.h"
 #include "ui/main/MainFakes.h"
+#include "ui/splash/Splash.h"
 
 namespace quorin::test {
 namespace {
@@ -27,11 +28,15 @@ class StartupTest : public ProgramFixture {
         events.pump.DoEvents();
     }
 
-    bool RunMain(std::string folder = {}) {
-        startup = std::make_unique<Startup>(
-            StartupServices{settings, clock, prompter, shell, index, matches, options, help,
-                            folder.empty() ? program.Path() : folder, false, [this] { ++unloads; },
-                            [this](frmMain& form) { connected = &form; }});
+    bool RunMain(std::string folder = {}, bool showSplash = false) {
+        startup = std::make_unique<Startup>(StartupServices{
+            settings, clock, prompter, shell, index, matches, options, help,
+            folder.empty() ? program.Path() : folder, showSplash, [this] { ++unloads; },
+            [this](frmMain& form) {
+                connected = &form;
+                const HWND splash = FindWindowW(kSplashClass, nullptr);
+                splashWhenLoaded = splash != nullptr && IsWindowVisible(splash);
+            }});
         return startup->Main();
     }
     bool IndexFileExists() const {
@@ -40,6 +45,7 @@ class StartupTest : public ProgramFixture {
 
     std::unique_ptr<Startup> startup;
     frmMain* connected = nullptr;
+    bool splashWhenLoaded = false;
 };
 
 TEST_F(StartupTest, RecordsWhereAndWhichVersionTheProgramIs) {
@@ -170,8 +176,10 @@ TEST_F(FirstStartTest, TheWizardsFinishBuildsTheIndexAndTheProgramRunsFromTheTra
         }
         Click(wizard, IDC_WELCOME_FINISH);
     });
-    EXPECT_TRUE(RunMain());
+    EXPECT_TRUE(RunMain({}, true));
     EXPECT_TRUE(wizardShown);
+    EXPECT_TRUE(splashWhenLoaded) << "the splash is back after the wizard until then";
+    EXPECT_EQ(FindWindowW(kSplashClass, nullptr), nullptr);
     EXPECT_TRUE(IndexFileExists());
     EXPECT_TRUE(prompter.boxes.empty()) << "no \"Missing index\" after the wizard's build";
     EXPECT_EQ(Configured(), "1");

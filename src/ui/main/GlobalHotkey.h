@@ -25,9 +25,6 @@ class GlobalHotkey {
     // True when the window could register the combination now.
     bool Free(HWND window, const Hotkey& hotkey) const;
 
-    const std::optional<Hotkey>& Wanted() const { return wanted_; }
-    bool InUse() const { return wanted_.has_value() && !registered_; }
-
   private:
     HWND window_ = nullptr;
     std::optional<Hotkey> wanted_;

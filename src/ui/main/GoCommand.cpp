@@ -18,7 +18,7 @@ GoAction DecideGo(clsIndex& index, std::string_view word, SearchProgress& progre
     }
     std::optional<MatchList> matches = index.FindMatch(word, &progress);
     if (!matches || matches->Count() == 0) {
-        return {};
+        return {GoAction::Kind::NoMatch, "", "", std::nullopt};
     }
     if (matches->Count() > 1) {
         return {GoAction::Kind::ChooseMatch, "", "", std::move(matches)};

@@ -14,7 +14,8 @@ class SearchProgress;
 // What Go does with the typed word, decided without a window.
 struct GoAction {
     enum class Kind {
-        None,          // an empty box, or no assigned word and no match
+        None,          // an empty box
+        NoMatch,       // no assigned word and no match: the window says so
         OpenAssigned,  // the user's own word: its file opens and the window hides
         OpenMatch,     // exactly one match: it opens and the window stays
         ChooseMatch,   // several matches go to the Matches window

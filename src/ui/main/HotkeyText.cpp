@@ -191,10 +191,4 @@ void SaveHotkey(SettingsStore& settings, const std::optional<Hotkey>& hotkey) {
     settings.Save(kSection, kKey, hotkey ? FormatHotkey(*hotkey) : "");
 }
 
-std::string HotkeyInUseTip(const Hotkey& hotkey) {
-    return std::string("Quorin: ")
-        .append(FormatHotkey(hotkey))
-        .append(" is in use by another program");
-}
-
 }  // namespace quorin

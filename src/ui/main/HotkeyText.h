@@ -33,7 +33,4 @@ std::optional<Hotkey> ParseHotkey(std::string_view text);
 std::optional<Hotkey> LoadHotkey(const SettingsStore& settings);
 void SaveHotkey(SettingsStore& settings, const std::optional<Hotkey>& hotkey);
 
-// What the tray tip says while another program holds the combination.
-std::string HotkeyInUseTip(const Hotkey& hotkey);
-
 }  // namespace quorin

@@ -4,8 +4,11 @@
 
 namespace quorin {
 
-TrayAction DecodeTrayCallback(WPARAM wParam, LPARAM lParam) {
+TrayAction DecodeTrayCallback(WPARAM wParam, LPARAM lParam, POINT pointer) {
     if (wParam != kTrayIconId || HIWORD(lParam) != 0) {
+        return TrayAction::None;
+    }
+    if (pointer.x == LOWORD(lParam) && pointer.y == 0) {
         return TrayAction::None;
     }
     switch (LOWORD(lParam)) {

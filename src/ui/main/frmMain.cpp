@@ -29,6 +29,7 @@ namespace {
 // Left, top, width and the height of the opened list.
 constexpr RECT kWordBoxTwips{1080, 105, 3000, 1800};
 constexpr DWORD kMainStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
+constexpr std::string_view kTip = "Quorin";
 constexpr std::string_view kIndexingTip = "Quorin (indexing...)";
 constexpr std::string_view kCannotExitText =
     "You cannot exit the program while it is indexing. Cancel the indexing then exit the "
@@ -69,7 +70,7 @@ void frmMain::Form_Load() {
     // Let the word list and the layout settle before the icon invites the first click.
     MessagePump().DoEvents();
     hotkey_.Register(hwnd(), LoadHotkey(services_.settings));
-    services_.tray.CreateIcon(hwnd(), icon_.get(), Tip());
+    services_.tray.CreateIcon(hwnd(), icon_.get(), kTip);
 }
 
 void frmMain::CreateControls() {
@@ -201,7 +202,8 @@ void frmMain::EndIndexing() {
     UpdateIndexPanel();  // the panel under the progress shows what the build indexed
     ShowWindow(picPanel.Panel(kProgressPanel), SW_HIDE);
     EnableTabs();
-    services_.tray.ChangeIcon(hwnd(), icon_.get(), Tip());
+    services_.tray.ChangeIcon(hwnd(), icon_.get(), kTip);
+    UpdateIndexPanel();  // the Index panel may be the one shown under the progress
 }
 
 void frmMain::Show(int maximum) {
@@ -316,7 +318,8 @@ void frmMain::OnCommand(int id, int code, HWND) {
 
 void frmMain::cboWord_Command(int code) {
     if (code == CBN_EDITCHANGE) {
-        cboWord.Change();  // cboWord_Change
+        SetText(lblFile, "");  // what Go said was about the word before
+        cboWord.Change();      // cboWord_Change
     } else if (code == CBN_SETFOCUS) {
         HighlightControl(cboWord.hwnd());  // cboWord_GotFocus
     } else if (code == CBN_KILLFOCUS) {
@@ -327,6 +330,11 @@ void frmMain::cboWord_Command(int code) {
 // Ctrl+Tab and Ctrl+Shift+Tab go round the tabs as in a tabbed dialog; never to Exit, which
 // would end the program on a key meant to look around.
 bool frmMain::OnKey(const MSG& message) {
+    if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE &&
+        SendMessageW(cboWord.hwnd(), CB_GETDROPPEDSTATE, 0, 0) == FALSE) {
+        OnClose();  // as the close box: to the tray
+        return true;
+    }
     std::optional<int> next = PageAfterCtrlTab(message, currentTab_, kExitPanel);
     if (!next || !tabLabel[currentTab_].Enabled()) {
         return false;
@@ -362,8 +370,10 @@ bool frmMain::Form_QueryUnload(bool userClose) {
     if (!userClose) {
         return false;
     }
-    ShowWindow(hwnd(), SW_MINIMIZE);
+    // Hidden first, so that no minimise animation plays; minimising it then shows it for no
+    // longer than Form_Resize takes to hide it again.
     ShowWindow(hwnd(), SW_HIDE);
+    ShowWindow(hwnd(), SW_MINIMIZE);
     return true;
 }
 
@@ -395,9 +405,12 @@ void frmMain::StorePosition() {
 }
 
 void frmMain::Form_MouseMove(WPARAM wParam, LPARAM lParam) {
-    switch (DecodeTrayCallback(wParam, lParam)) {
+    const DWORD place = GetMessagePos();
+    POINT pointer{GET_X_LPARAM(place), GET_Y_LPARAM(place)};
+    ScreenToClient(hwnd(), &pointer);
+    switch (DecodeTrayCallback(wParam, lParam, pointer)) {
         case TrayAction::Restore:
-            RestoreFromTray();
+            BringUp(true);
             break;
         case TrayAction::Menu:
             mnuSystray.Show(hwnd());
@@ -407,24 +420,26 @@ void frmMain::Form_MouseMove(WPARAM wParam, LPARAM lParam) {
     }
 }
 
-void frmMain::RestoreFromTray() {
-    if (IsWindowVisible(hwnd())) {
-        SetForegroundWindow(hwnd());
-        return;
-    }
-    ShowWindow(hwnd(), SW_RESTORE);
-    SetForegroundWindow(hwnd());
-    ShowWindow(hwnd(), SW_SHOW);
-    startPlace_.MoveTo(hwnd(), dpi_, 0);
-}
-
-void frmMain::ShowInFront() {
-    if (IsIconic(hwnd())) {
+// Every way the window comes up ends here: in front, restored, and with the keyboard focus in
+// it. A window that was active already gets no WM_ACTIVATE, and one that was minimised kept no
+// focus, so the focus is given here rather than left to Form_Activate. A hidden window comes
+// back at the remembered place when `toRememberedPlace`; a visible one is not moved.
+void frmMain::BringUp(bool toRememberedPlace) {
+    const bool wasHidden = !IsWindowVisible(hwnd());
+    if (wasHidden || IsIconic(hwnd())) {
         ShowWindow(hwnd(), SW_RESTORE);
     }
     SetForegroundWindow(hwnd());
     ShowWindow(hwnd(), SW_SHOW);
+    if (wasHidden && toRememberedPlace) {
+        startPlace_.MoveTo(hwnd(), dpi_, 0);
+    }
     Repaint();
+    if (IsWindowVisible(cboWord.hwnd())) {
+        SetFocus(cboWord.hwnd());
+    } else if (!IsChild(hwnd(), GetFocus())) {
+        SetFocus(hwnd());
+    }
 }
 
 void frmMain::tabLabel_Click(int Index) {
@@ -478,6 +493,9 @@ void frmMain::cmdGo_Click() {
             StorePosition();
             ShowWindow(hwnd(), SW_HIDE);
             break;
+        case GoAction::Kind::NoMatch:
+            SetText(lblFile, "Nothing is named like \"" + word + "\".");
+            break;
         case GoAction::Kind::None:
             break;
     }
@@ -499,19 +517,19 @@ void frmMain::lnkCancel_Click() {
 
 void frmMain::mnuSystrayGo_Click() {
     SelectPanel(kGoPanel);
-    ShowInFront();
+    BringUp(false);
 }
 
 void frmMain::mnuSystrayExit_Click() {
     if (Indexing()) {
-        ShowInFront();
+        BringUp(false);
         services_.prompter.Ask("Cannot exit", kCannotExitText, PromptButtons::Ok,
                                PromptIcon::Information);
         return;
     }
     SelectPanel(kExitPanel);
     DisableTabs();
-    ShowInFront();
+    BringUp(false);
     Unload();
 }
 

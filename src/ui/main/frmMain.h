@@ -165,13 +165,11 @@ class frmMain final : public Window,
     void KeepWordBoxClear();
     void ShowPanel();
     void Repaint();
-    void ShowInFront();
-    void RestoreFromTray();
+    void BringUp(bool toRememberedPlace);
     void StorePosition();
     void SelectPanel(int panel);
     void UpdateIndexPanel();
     bool Indexing() const;
-    std::string Tip() const;
 
     MainServices services_;
     MainBuilds builds_{services_.index, [this] { Unload(); }};

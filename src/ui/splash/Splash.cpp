@@ -63,7 +63,8 @@ void frmSplash::Show() {
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &workArea, 0);
 
     WindowSpec layout;
-    layout.title = "Quorin";
+    // Not "Quorin", which names the main window to the user and to the scripts that look for it.
+    layout.title = "Quorin is starting";
     layout.style = style;
     layout.width = outer.cx;
     layout.height = outer.cy;

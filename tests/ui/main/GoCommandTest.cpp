@@ -36,12 +36,12 @@ TEST_F(GoCommandTest, OneMatchOpensInItsFolderWithoutASeparator) {
     EXPECT_EQ(action.workingFolder, JoinPath(tree.Path(), "docs"));
 }
 
-TEST_F(GoCommandTest, SeveralMatchesGoToTheChooserAndNoneOrAnEmptyBoxDoNothing) {
+TEST_F(GoCommandTest, SeveralMatchesGoToTheChooserNoneIsToldAndAnEmptyBoxDoesNothing) {
     const GoAction several = Go("budget");
     EXPECT_EQ(several.kind, GoAction::Kind::ChooseMatch);
     ASSERT_TRUE(several.matches);
     EXPECT_EQ(several.matches->Count(), 2);
-    EXPECT_EQ(Go("zebra").kind, GoAction::Kind::None);
+    EXPECT_EQ(Go("zebra").kind, GoAction::Kind::NoMatch);
     EXPECT_EQ(Go("").kind, GoAction::Kind::None);
 }
 

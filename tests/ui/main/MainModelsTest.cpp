@@ -66,16 +66,25 @@ TEST(TrayRecord, CutsTheTipTo64BytesWithANulOnlyWhenShorter) {
 }
 
 TEST(TrayCallback, DecodesOnlyGenuineCallbacks) {
-    EXPECT_EQ(DecodeTrayCallback(1, WM_LBUTTONUP), TrayAction::Restore);
-    EXPECT_EQ(DecodeTrayCallback(1, WM_LBUTTONDBLCLK), TrayAction::Restore);
-    EXPECT_EQ(DecodeTrayCallback(1, WM_RBUTTONUP), TrayAction::Menu);
+    const POINT overIcon{900, 700};  // the pointer over the icon, far from the window
+    EXPECT_EQ(DecodeTrayCallback(1, WM_LBUTTONUP, overIcon), TrayAction::Restore);
+    EXPECT_EQ(DecodeTrayCallback(1, WM_LBUTTONDBLCLK, overIcon), TrayAction::Restore);
+    EXPECT_EQ(DecodeTrayCallback(1, WM_RBUTTONUP, overIcon), TrayAction::Menu);
     for (const LPARAM ignored : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_RBUTTONDOWN, WM_MBUTTONUP}) {
-        EXPECT_EQ(DecodeTrayCallback(1, ignored), TrayAction::None) << ignored;
+        EXPECT_EQ(DecodeTrayCallback(1, ignored, overIcon), TrayAction::None) << ignored;
     }
     // Real mouse moves over the window: key flags in wParam, the pointer's y in the high word.
-    EXPECT_EQ(DecodeTrayCallback(0, MAKELPARAM(WM_LBUTTONUP, 0)), TrayAction::None);
-    EXPECT_EQ(DecodeTrayCallback(MK_LBUTTON, MAKELPARAM(WM_LBUTTONUP, 12)), TrayAction::None);
-    EXPECT_EQ(DecodeTrayCallback(2, WM_LBUTTONUP), TrayAction::None) << "another icon's id";
+    EXPECT_EQ(DecodeTrayCallback(0, MAKELPARAM(WM_LBUTTONUP, 0), overIcon), TrayAction::None);
+    EXPECT_EQ(DecodeTrayCallback(MK_LBUTTON, MAKELPARAM(WM_LBUTTONUP, 12), overIcon),
+              TrayAction::None);
+    EXPECT_EQ(DecodeTrayCallback(2, WM_LBUTTONUP, overIcon), TrayAction::None)
+        << "another icon's id";
+    // The left button held over the top row of a window wider than 517 pixels (150 % and up).
+    for (const UINT x : {WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_RBUTTONUP}) {
+        EXPECT_EQ(DecodeTrayCallback(MK_LBUTTON, x, POINT{static_cast<LONG>(x), 0}),
+                  TrayAction::None)
+            << x;
+    }
 }
 
 TEST(MainLayout, ClientFitsTheContentAndExitSitsAtItsRightEdgeAtTwoDpis) {

@@ -29,8 +29,10 @@ void MainWindowTest::SetWord(std::string_view word) {
     SetText(Control(kIdWord), word);
 }
 
+// Posted, as the shell does, so that the message carries the pointer's place at the time.
 void MainWindowTest::Tray(UINT mouseMessage) {
-    SendMessageW(Window(), WM_MOUSEMOVE, kTrayIconId, mouseMessage);
+    PostMessageW(Window(), WM_MOUSEMOVE, kTrayIconId, mouseMessage);
+    events.pump.DoEvents();
 }
 
 bool MainWindowTest::PanelShown(int panel) const {
