@@ -8,8 +8,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/registry/clsRegistry.h"
 #include "LookHighContrast.h"
+#include "platform/registry/clsRegistry.h"
 #include "ui/controls/OleColor.h"
 #include "ui/dialogs/FileChooser.h"
 #include "ui/dialogs/KnownExtensions.h"

@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "platform/Path.h"
 #include "LookHighContrast.h"
+#include "platform/Path.h"
 #include "ui/controls/OleColor.h"
 #include "ui/controls/ctlTabLabel.h"
 #include "ui/main/MainFakes.h"
