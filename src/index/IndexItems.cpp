@@ -22,10 +22,6 @@ constexpr char kNameEnd = '\n';
 // records never become resident.
 constexpr uintmax_t kFileBytesPerRecordGuess = 16;
 
-// Names are copied with this many bytes to spare behind them, so that the last piece of a name
-// needs no care.
-constexpr size_t kSpareBytes = 16;
-
 // Sets the bits of value (16 at most) from bit `position` on.
 void OrBits(std::vector<uint64_t>& bits, size_t position, uint64_t value) {
     const size_t word = position / 64;
@@ -35,6 +31,20 @@ void OrBits(std::vector<uint64_t>& bits, size_t position, uint64_t value) {
         bits[word + 1] |= value >> (64 - shift);
     }
 }
+
+#if defined(__SSE2__)
+struct UpperPiece {
+    __m128i bytes;       // upper-cased
+    uint64_t lowerMask;  // a bit for each byte that was a lower-case letter
+};
+
+UpperPiece UpperCased(__m128i bytes) {
+    const __m128i lower = _mm_and_si128(_mm_cmpgt_epi8(bytes, _mm_set1_epi8('a' - 1)),
+                                        _mm_cmplt_epi8(bytes, _mm_set1_epi8('z' + 1)));
+    return {_mm_sub_epi8(bytes, _mm_and_si128(lower, _mm_set1_epi8('a' - 'A'))),
+            static_cast<uint64_t>(_mm_movemask_epi8(lower))};
+}
+#endif
 
 uint32_t Offset(size_t size) {
     if (size > std::numeric_limits<uint32_t>::max()) {
@@ -68,50 +78,68 @@ void IndexItems::Add(std::string_view filename, int32_t directory) {
 }
 
 // Upper-cases the name 16 bytes at a time and notes which were lower-case letters; false,
-// adding nothing, when it is not ASCII.
+// adding nothing, when it is not ASCII. The name is read where the caller has it, never from the
+// copy just written, whose loads would wait on the copy's stores. A name's last piece is the 16
+// bytes that end it, which overlap the piece before: upper-casing a byte twice changes nothing.
 bool IndexItems::AddAscii(std::string_view filename) {
     const size_t start = upperNames_.size();
-    upperNames_.append(filename).append(kSpareBytes, kNameEnd);
-    char* upper = upperNames_.data() + start;
     const size_t size = filename.size();
+    const char* from = filename.data();
 #if defined(__SSE2__)
-    __m128i seen = _mm_setzero_si128();
-    for (size_t i = 0; i < size; i += 16) {
-        seen = _mm_or_si128(seen, _mm_loadu_si128(reinterpret_cast<const __m128i*>(upper + i)));
-    }
-    if (_mm_movemask_epi8(seen) != 0) {
-        upperNames_.resize(start);
-        return false;
-    }
-    lowerBits_.resize(upperNames_.size() / 64 + 2);
-    const __m128i beforeA = _mm_set1_epi8('a' - 1);
-    const __m128i afterZ = _mm_set1_epi8('z' + 1);
-    const __m128i caseBit = _mm_set1_epi8('a' - 'A');
-    for (size_t i = 0; i < size; i += 16) {
-        auto* piece = reinterpret_cast<__m128i*>(upper + i);
-        const __m128i bytes = _mm_loadu_si128(piece);
-        const __m128i lower =
-            _mm_and_si128(_mm_cmpgt_epi8(bytes, beforeA), _mm_cmplt_epi8(bytes, afterZ));
-        const auto lowerMask = static_cast<uint64_t>(_mm_movemask_epi8(lower));
-        if (lowerMask != 0) {
-            _mm_storeu_si128(piece, _mm_sub_epi8(bytes, _mm_and_si128(lower, caseBit)));
-            OrBits(lowerBits_, start + i, lowerMask);
+    if (size >= 8) {
+        const size_t last = size >= 16 ? size - 16 : 0;
+        // A name of 8 to 15 bytes is one piece of its first 8 bytes and its last 8.
+        const auto piece = [&](size_t at) {
+            if (size >= 16) {
+                return _mm_loadu_si128(reinterpret_cast<const __m128i*>(from + at));
+            }
+            uint64_t low = 0;
+            uint64_t high = 0;
+            std::memcpy(&low, from, 8);
+            std::memcpy(&high, from + size - 8, 8);
+            return _mm_set_epi64x(static_cast<int64_t>(high), static_cast<int64_t>(low));
+        };
+        __m128i seen = piece(last);
+        for (size_t i = 0; i < last; i += 16) {
+            seen = _mm_or_si128(seen, piece(i));
         }
+        if (_mm_movemask_epi8(seen) != 0) {
+            return false;
+        }
+        upperNames_.append(filename);
+        lowerBits_.resize(upperNames_.size() / 64 + 2);
+        char* upper = upperNames_.data() + start;
+        for (size_t i = 0;; i = std::min(i + 16, last)) {
+            const auto [bytes, lowerMask] = UpperCased(piece(i));
+            if (lowerMask != 0 && size >= 16) {
+                _mm_storeu_si128(reinterpret_cast<__m128i*>(upper + i), bytes);
+                OrBits(lowerBits_, start + i, lowerMask);
+            } else if (lowerMask != 0) {
+                _mm_storel_epi64(reinterpret_cast<__m128i*>(upper), bytes);
+                _mm_storel_epi64(reinterpret_cast<__m128i*>(upper + size - 8),
+                                 _mm_srli_si128(bytes, 8));
+                OrBits(lowerBits_, start, lowerMask & 0xFF);
+                OrBits(lowerBits_, start + size - 8, lowerMask >> 8);
+            }
+            if (i == last) {
+                break;
+            }
+        }
+        return true;
     }
-#else
-    if (std::any_of(upper, upper + size, [](char c) { return (c & 0x80) != 0; })) {
-        upperNames_.resize(start);
+#endif
+    if (std::any_of(from, from + size, [](char c) { return (c & 0x80) != 0; })) {
         return false;
     }
+    upperNames_.append(filename);
     lowerBits_.resize(upperNames_.size() / 64 + 2);
+    char* upper = upperNames_.data() + start;
     for (size_t i = 0; i < size; ++i) {
         if (upper[i] >= 'a' && upper[i] <= 'z') {
             upper[i] = static_cast<char>(upper[i] - ('a' - 'A'));
             OrBits(lowerBits_, start + i, 1);
         }
     }
-#endif
-    upperNames_.resize(start + size);
     return true;
 }
 

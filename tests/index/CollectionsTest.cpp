@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "index/SubstringSearcher.h"
 #include "index/clsItems.h"
 #include "platform/Errors.h"
+#include "platform/Text.h"
 
 namespace quorin {
 namespace {
@@ -62,6 +64,29 @@ TEST(IndexItemsTest, FindGivesEachMatchingRecordOnceInIndexOrder) {
     EXPECT_EQ(last.Filename + "|" + last.UCFilename, "Résumé, draft.doc|RÉSUMÉ, DRAFT.DOC");
     EXPECT_EQ(last.Directory, 5000);
     EXPECT_THROW(items.Item(252), OutOfRangeError);
+}
+
+// Names are upper-cased in pieces of 8 and 16 bytes that overlap at the end: every length, and a
+// byte above 0x7F at the last place, which sends the name down the other path.
+TEST(IndexItemsTest, NamesOfEveryLengthKeepTheirCaseAndAreFoundUpperCased) {
+    const std::string letters = "aZ-b.yC9x_qRmW~0kLp sTuvEfgHIjNoD";
+    IndexItems items;
+    std::vector<std::string> names;
+    for (size_t length = 0; length <= letters.size(); ++length) {
+        names.push_back(letters.substr(0, length));
+        names.push_back(letters.substr(0, length) + "\xC3\xA9");
+    }
+    for (const std::string& name : names) {
+        items.Add(name, 1);
+    }
+    for (int32_t position = 1; position <= items.Count(); ++position) {
+        const std::string& name = names[static_cast<size_t>(position - 1)];
+        const clsItem item = items.Item(position);
+        EXPECT_EQ(item.Filename, name);
+        EXPECT_EQ(item.UCFilename, ToUpper(name)) << name;
+        const std::vector<int32_t> found = items.Find(item.UCFilename, nullptr);
+        EXPECT_NE(std::find(found.begin(), found.end(), position), found.end()) << name;
+    }
 }
 
 TEST(SubstringSearcherTest, AgreesWithStdFindOnRandomTexts) {
