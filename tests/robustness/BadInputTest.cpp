@@ -6,7 +6,6 @@
 #include "EngineFixture.h"
 #include "platform/Errors.h"
 #include "platform/IniSettingsStore.h"
-#include "platform/LenientConversions.h"
 
 namespace quorin {
 namespace {
@@ -194,24 +193,6 @@ TEST_F(BadInput, SettingsFileLoadsOrNamesTheLineAndBadValuesNameTheSetting) {
     settings.Save("Index", "Interval", "24");
     settings.Save("Index", "DriveCount", "5002");
     EXPECT_THROW(MakeIndex(), OutOfRangeError);
-}
-
-TEST(BadInputConversions, LenientBooleansAndNumbersAcceptBothWritersAndNothingElse) {
-    EXPECT_EQ(ParseWholeNumber(" 42 "), 42);
-    EXPECT_EQ(ParseWholeNumber("-2147483648"), INT32_MIN);
-    EXPECT_EQ(ParseWholeNumber("2147483648"), std::nullopt);
-    EXPECT_EQ(ParseWholeNumber("4\0"s), std::nullopt);
-    for (const char* bad : {"", " ", "abc", "1e3", "0x10", "4 2", "--1", "\xE9"}) {
-        EXPECT_EQ(ParseWholeNumber(bad), std::nullopt) << bad;
-    }
-    EXPECT_EQ(ParseLenientBoolean("TRUE"), true);
-    EXPECT_EQ(ParseLenientBoolean(" false "), false);
-    EXPECT_EQ(ParseLenientBoolean("-1"), true);
-    EXPECT_EQ(ParseLenientBoolean("0"), false);
-    EXPECT_EQ(ParseLenientBoolean("99999999999"), true);
-    for (const char* bad : {"", "yes", "Tru", "truee", "nan", "inf", "1e999"}) {
-        EXPECT_EQ(ParseLenientBoolean(bad), std::nullopt) << bad;
-    }
 }
 
 }  // namespace
