@@ -108,22 +108,10 @@ TEST_F(EngineTest, WalkIsBreadthFirstAcrossRootsInDriveOrder) {
     EXPECT_FALSE(index->FindMatch("nothing like it"));
 }
 
-TEST_F(EngineTest, TempPrefixSkipsFoldersOnlyWhenAsked) {
+TEST_F(EngineTest, TempAndSystemFoldersAreSkippedOnlyWhenAskedAndHiddenOnesAlways) {
     tree.WriteFile("r/Templates/t1.txt", "");
     tree.WriteFile("r/My Temp/t2.txt", "");
     tree.WriteFile("r/temp.txt", "");  // files are never skipped by name
-    UseRoots({"r"});
-    auto index = MakeIndex();
-    index->CreateIndex(true, ui);
-    EXPECT_EQ(Matches(*index, "t"), (Paths{TreePath("r/temp.txt"), TreePath("r/My Temp/t2.txt")}));
-
-    settings.Save("Index", "IgnoreTempFolders", "0");
-    index->UpdateSettings();
-    index->CreateIndex(true, ui);
-    EXPECT_EQ(Matches(*index, "t1").size(), 1u);
-}
-
-TEST_F(EngineTest, HiddenEntriesAreNeverIndexedAndSystemOnesOnlyWhenAsked) {
     tree.WriteFile("r/shown.txt", "");
     const std::string hiddenFile = tree.WriteFile("r/hid.txt", "");
     const std::string hiddenFolder = tree.MakeFolder("r/hiddir");
@@ -136,14 +124,19 @@ TEST_F(EngineTest, HiddenEntriesAreNeverIndexedAndSystemOnesOnlyWhenAsked) {
     UseRoots({"r"});
     auto index = MakeIndex();
     index->CreateIndex(true, ui);
+    EXPECT_EQ(Matches(*index, "t1"), Paths{});
+    EXPECT_EQ(Matches(*index, "t2"), Paths{TreePath("r/My Temp/t2.txt")});
+    EXPECT_EQ(Matches(*index, "temp.txt"), Paths{TreePath("r/temp.txt")});
     EXPECT_EQ(Matches(*index, "hid"), Paths{});
     EXPECT_EQ(Matches(*index, "inner"), Paths{});
-    EXPECT_EQ(index->FolderCount(), 1);
+    EXPECT_EQ(index->FolderCount(), 2);
     EXPECT_EQ(Matches(*index, "sys").size(), 1u);
 
+    settings.Save("Index", "IgnoreTempFolders", "0");
     settings.Save("Index", "IncludeSystemFolders", "False");
     index->UpdateSettings();
     index->CreateIndex(true, ui);
+    EXPECT_EQ(Matches(*index, "t1").size(), 1u);
     EXPECT_EQ(Matches(*index, "sys").empty(), systemAttribute);
     EXPECT_EQ(Matches(*index, "shown").size(), 1u);
 }
