@@ -4,15 +4,10 @@
 # the progress page, and the program runs on from the tray. A second start goes straight to the
 # tray. A fresh start whose wizard is closed ends the program with no index built.
 # Usage: first_run.sh EXE_FOLDER WORK_FOLDER [SCREENSHOT_FOLDER]
-# Needs DISPLAY (an Xvfb of 1280x800, see scripts/with-xvfb); uses its own Wine prefix in
-# WORK_FOLDER.
 set -euo pipefail
-exe_folder=$1
-work=$2
-shots=${3:-$work/screenshots}
-tree=$work/wineprefix/drive_c/first-run-tree
 first_start=1
 . "$(dirname "$0")/lib.sh"
+tree=$work/wineprefix/drive_c/first-run-tree
 prepare_program
 
 make_tree 60 60
@@ -37,7 +32,6 @@ crop_wizard() { convert "$shots/$1.png" -crop "$wizard_area" +repage "$shots/$1.
 
 wizard_shown() { window_shown '^Welcome to Quorin$'; }
 wizard_gone() { ! wizard_shown; }
-program_ended() { ! kill -0 "$desktop" 2>/dev/null; }
 configured() { wine reg query 'HKCU\Software\Quorin\Main' /v Configured 2>/dev/null | grep -q 'REG_SZ *1'; }
 # A click on the tray icon shows the main window once the program runs from the tray.
 shown_from_tray() {
@@ -84,7 +78,7 @@ wine reg delete 'HKCU\Software\Quorin\Main' /v Configured /f >/dev/null
 start_program
 wait_until 60 "no wizard at a start not yet configured" wizard_shown
 close_box
-wait_until 30 "closing the wizard did not end the program" program_ended
+wait_until 30 "closing the wizard did not end the program" program_gone
 [ ! -f "$program/index.txt" ] || fail "closing the wizard built an index"
 ! configured || fail "closing the wizard marked the first start done"
 echo "PASS"

@@ -1,9 +1,13 @@
 # shellcheck shell=bash disable=SC2154
-# Shared by the end-to-end scripts; sourced, with exe_folder, work and shots set by the caller.
-# Each script has its own Wine prefix and program folder in `work`, and stops only the Wine server
-# of that prefix.
+# Shared by the end-to-end scripts; sourced with the script's arguments: EXE_FOLDER (unless the
+# script set exe_folder) WORK_FOLDER [SCREENSHOT_FOLDER]. Each script needs DISPLAY (an Xvfb of
+# 1280x800, see scripts/with-xvfb), has its own Wine prefix and program folder in WORK_FOLDER,
+# and stops only the Wine server of that prefix.
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 : "${DISPLAY:?needs an X display}"
+exe_folder=${exe_folder:-$1}
+work=$2
+shots=${3:-$work/screenshots}
 
 export WINEPREFIX=$work/wineprefix
 export WINEDEBUG=-all
@@ -81,6 +85,13 @@ make_tree() {  # FOLDERS SUBFOLDERS
 
 # set_setting SECTION NAME VALUE
 set_setting() { wine reg add "HKCU\\Software\\Quorin\\$1" /v "$2" /d "$3" /f >/dev/null; }
+# The one root to index, and the filter's types, included or (False) left out.
+index_root() {  # ROOT FILTER FILTER_IS_INCLUDE
+    set_setting Index DriveCount 1
+    set_setting Index Drive0 "$1"
+    set_setting Index Filter "$2"
+    set_setting Index FilterIsInclude "$3"
+}
 
 # A Linux path as Wine's Z: drive sees it.
 windows_path() { echo "Z:${1//\//\\}"; }
@@ -95,9 +106,11 @@ register_marking_type() {  # EXTENSION CLASS
 }
 opened() { [ -s "$marker" ] && grep -qF "$1" "$marker"; }
 
-# Starts quorin.exe on a Wine desktop filling the display; sets `desktop` to its process.
-start_program() {
-    wine explorer /desktop=quorin,1280x800 "$(windows_path "$program")\\quorin.exe" &
+# Starts quorin.exe (the program folder's, or the Windows path EXE with ARGS) on a Wine desktop
+# filling the display; sets `desktop` to its process.
+# shellcheck disable=SC2120
+start_program() {  # [EXE [ARGS]]
+    wine explorer /desktop=quorin,1280x800 "${1:-$(windows_path "$program")\\quorin.exe}" "${@:2}" &
     desktop=$!
     xdotool mousemove 640 200
 }

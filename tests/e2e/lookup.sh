@@ -5,12 +5,7 @@
 # again opens that file at once. Files open through a file type registered in the prefix whose
 # "open" command writes the opened path to a marker file.
 # Usage: lookup.sh EXE_FOLDER WORK_FOLDER [SCREENSHOT_FOLDER]
-# Needs DISPLAY (an Xvfb of 1280x800, see scripts/with-xvfb); uses its own Wine prefix in
-# WORK_FOLDER.
 set -euo pipefail
-exe_folder=$1
-work=$2
-shots=${3:-$work/screenshots}
 . "$(dirname "$0")/lib.sh"
 prepare_program
 
@@ -20,10 +15,7 @@ mkdir -p "$tree/papers"
 touch "$tree/papers/alpha report.qzo" "$tree/papers/alpha notes.qzo" \
     "$tree/papers/alpha draft.txt" "$tree/beta plan.qzo"
 
-set_setting Index DriveCount 1
-set_setting Index Drive0 "$(windows_path "$tree")"
-set_setting Index Filter '.QZO '
-set_setting Index FilterIsInclude True
+index_root "$(windows_path "$tree")" '.QZO ' True
 # The Matches window at 100, 100 with its designed size of 480 x 320 (in twips at 96 dpi), so
 # that its check box and Open button are where the clicks below go.
 for place in Left:1500 Top:1500 Width:7200 Height:4800; do

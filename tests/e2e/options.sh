@@ -4,12 +4,7 @@
 # opens it; a word added through Add New Word stays in words.txt after the Options dialog is
 # cancelled, and is gone once deleted with Yes.
 # Usage: options.sh EXE_FOLDER WORK_FOLDER [SCREENSHOT_FOLDER]
-# Needs DISPLAY (an Xvfb of 1280x800, see scripts/with-xvfb); uses its own Wine prefix in
-# WORK_FOLDER.
 set -euo pipefail
-exe_folder=$1
-work=$2
-shots=${3:-$work/screenshots}
 . "$(dirname "$0")/lib.sh"
 prepare_program
 
@@ -21,11 +16,7 @@ touch "$tree/report.qzp" "$tree/notes.txt"
 # The General page offers whole drives, so the tree is a drive of its own, q:, and the only one
 # indexed: OK keeps it, and every build walks just the tree.
 ln -sfn "$tree" "$WINEPREFIX/dosdevices/q:"
-set_setting Main Configured 1
-set_setting Index DriveCount 1
-set_setting Index Drive0 'q:'
-set_setting Index Filter ''
-set_setting Index FilterIsInclude True
+index_root q: '' True
 register_marking_type .qzp QuorinOptionsTest
 wineserver -w
 

@@ -6,11 +6,9 @@
 # as at sign-in, and the uninstall removing the program files, the shortcut and the Run value
 # while words.txt stays.
 # Usage: package.sh WIN_BUILD_TREE WORK_FOLDER [SCREENSHOT_FOLDER]
-# Needs DISPLAY (an Xvfb of 1280x800, see scripts/with-xvfb) and wixl.
+# Needs wixl.
 set -euo pipefail
 build_tree=$1
-work=$2
-shots=${3:-$work/screenshots}
 exe_folder=$build_tree/src/app
 . "$(dirname "$0")/lib.sh"
 
@@ -78,15 +76,10 @@ touch "$WINEPREFIX/drive_c/e2e-tree/docs/notes1.txt"
 # The user's own word, kept through the upgrade and the uninstall.
 printf 'Notes\r\nC:\\e2e-tree\\docs\r\nnotes1.txt\r\n' >"$program/words.txt"
 cp "$program/words.txt" "$work/words.before"
-set_setting Index DriveCount 1
-set_setting Index Drive0 'C:\e2e-tree'
-set_setting Index Filter ''
-set_setting Index FilterIsInclude False
+index_root 'C:\e2e-tree' '' False
 wineserver -w
 
-wine explorer /desktop=quorin,1280x800 "$target" &
-desktop=$!
-xdotool mousemove 640 200
+start_program "$target"
 wait_until 60 "no wizard at the first start" window_shown '^Welcome to Quorin$'
 # "Next >" three times, then Finish, where the wizard's navigation links stand.
 for _ in 1 2 3; do click_and_wait 765 551 532x352+373+224; done
@@ -126,9 +119,7 @@ wait_until 20 "the installed programs list no 1.0.1" arp_lists 1.0.1
 # Started as the Run value starts it at sign-in: into the tray, from where Alt+Space brings up
 # the main window. (The splash it skips shows too briefly to be told apart here.)
 quorin_window() { xdotool search --name '^Quorin$' >/dev/null 2>&1; }
-wine explorer /desktop=quorin,1280x800 "$target" /tray &
-desktop=$!
-xdotool mousemove 640 200
+start_program "$target" /tray
 wait_until 30 "the start at sign-in made no window" quorin_window
 # The window is made before the hotkey is taken: a press that comes too early is pressed again.
 for _ in 1 2 3 4 5; do

@@ -3,21 +3,13 @@
 # "Missing index" answered Yes, the first build watched and finished, completion in the word box,
 # the panels and the tray menu shown, and the program left through the Exit tab.
 # Usage: tray_program.sh EXE_FOLDER WORK_FOLDER [SCREENSHOT_FOLDER]
-# Needs DISPLAY (an Xvfb of 1280x800, see scripts/with-xvfb); uses its own Wine prefix in
-# WORK_FOLDER.
 set -euo pipefail
-exe_folder=$1
-work=$2
-shots=${3:-$work/screenshots}
-tree=$work/wineprefix/drive_c/e2e-tree
 . "$(dirname "$0")/lib.sh"
+tree=$work/wineprefix/drive_c/e2e-tree
 prepare_program
 
 make_tree 80 40
-set_setting Index DriveCount 1
-set_setting Index Drive0 'C:\e2e-tree'
-set_setting Index Filter ''
-set_setting Index FilterIsInclude False
+index_root 'C:\e2e-tree' '' False
 wineserver -w
 
 # Two assigned words for the completion; their folder is indexed by the first build.
@@ -41,15 +33,11 @@ shot main-go
 type_word no
 shot completion
 xdotool key ctrl+a BackSpace
-click_and_wait 502 373 "$panel_start"
-settled "$main_area"
-shot main-index
-click_and_wait 548 373 "$panel_start"
-settled "$main_area"
-shot main-options
-click_and_wait 589 373 "$panel_start"
-settled "$main_area"
-shot main-help
+for tab in 502:index 548:options 589:help; do
+    click_and_wait "${tab%:*}" 373 "$panel_start"
+    settled "$main_area"
+    shot "main-${tab#*:}"
+done
 tray_menu_area=320x160+960+640
 click_and_wait 1270 790 "$tray_menu_area" 3
 shot tray-menu

@@ -8,20 +8,23 @@
 namespace quorin {
 namespace {
 
+using namespace std::string_literals;
+
 TEST(ConversionsTest, NumbersAndLenientBooleans) {
     EXPECT_EQ(ParseWholeNumber("  42 "), 42);
     EXPECT_EQ(ParseWholeNumber("+7"), 7);
     EXPECT_EQ(ParseWholeNumber("-2147483648"), INT32_MIN);
-    for (const char* bad : {"", " ", "abc", "4x", "1.5", "+-1", "2147483648", "- 1"}) {
+    for (const std::string& bad : {""s, " "s, "abc"s, "4x"s, "1.5"s, "+-1"s, "2147483648"s, "- 1"s,
+                                   "1e3"s, "0x10"s, "4 2"s, "--1"s, "\xE9"s, "4\0"s}) {
         EXPECT_EQ(ParseWholeNumber(bad), std::nullopt) << bad;
     }
-    for (const char* yes : {"True", "TRUE", " true ", "-1", "2", "0.5"}) {
+    for (const char* yes : {"True", "TRUE", " true ", "-1", "2", "0.5", "99999999999"}) {
         EXPECT_EQ(ParseLenientBoolean(yes), true) << yes;
     }
     for (const char* no : {"False", "false", "0", " 0.0", "-0"}) {
         EXPECT_EQ(ParseLenientBoolean(no), false) << no;
     }
-    for (const char* bad : {"", "yes", "Truex", "nan", "inf", "1,5"}) {
+    for (const char* bad : {"", "yes", "Tru", "Truex", "nan", "inf", "1e999", "1,5"}) {
         EXPECT_EQ(ParseLenientBoolean(bad), std::nullopt) << bad;
     }
 }

@@ -40,26 +40,17 @@ TEST(MessageBoxPrompterTest, TheBoxBelongsToTheMainWindowOnlyWhileItIsShown) {
     const HWND main = CreateWindowExW(0, L"STATIC", L"Owner", WS_OVERLAPPED, 0, 0, 200, 100,
                                       nullptr, nullptr, nullptr, nullptr);
     MessageBoxPrompter prompter(main);
-    {
-        BoxWatch hidden;
-        EXPECT_EQ(hidden.Ask(prompter), PromptAnswer::Yes);
-        ASSERT_TRUE(hidden.owner.has_value());
-        EXPECT_EQ(*hidden.owner, nullptr) << "a hidden owner leaves the box without a button";
-    }
-
+    const auto ownerOfTheBox = [&] {
+        BoxWatch watch;
+        EXPECT_EQ(watch.Ask(prompter), PromptAnswer::Yes);
+        return watch.owner;
+    };
+    const std::optional<HWND> none = nullptr;
+    EXPECT_EQ(ownerOfTheBox(), none) << "a hidden owner leaves the box without a button";
     ShowWindow(main, SW_SHOWNOACTIVATE);
-    {
-        BoxWatch shown;
-        shown.Ask(prompter);
-        EXPECT_EQ(shown.owner, main);
-    }
-
+    EXPECT_EQ(ownerOfTheBox(), main);
     DestroyWindow(main);
-    {
-        BoxWatch gone;
-        gone.Ask(prompter);
-        EXPECT_EQ(gone.owner, nullptr);
-    }
+    EXPECT_EQ(ownerOfTheBox(), none);
 }
 
 }  // namespace

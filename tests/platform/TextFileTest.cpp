@@ -73,6 +73,34 @@ TEST(TextFileReader, SkipsALeadingBomAndDecodesNonUtf8LinesAsAnsi) {
               (std::vector<std::string>{"caf\xC3\xA9", "caf\xC3\xA9", "\xEF\xBB\xBFx"}));
 }
 
+// The reader takes the file in pieces of 256 KB: lines, and CR LF pairs, that straddle the
+// pieces must come out whole, as must a line longer than a piece.
+TEST(TextFileReader, LinesSurviveTheReadersPieces) {
+    constexpr size_t kPiece = 256 * 1024;
+    std::vector<std::string> lines;
+    std::string content;
+    const auto add = [&](const std::string& line, const std::string& end) {
+        lines.push_back(line);
+        content += line + end;
+    };
+    add(std::string(kPiece - 1, 'a'), "\r\n");  // CR ends the first piece, LF begins the next
+    add("b", "\r");
+    add(std::string(3 * kPiece, 'c'), "\n");
+    add("caf\xE9", "\r\n");
+    lines.back() = "caf\xC3\xA9";
+    while (content.size() % kPiece != kPiece - 1) {
+        add("filler", "\n");
+    }
+    add("", "\r");    // a lone CR as the last byte of a piece
+    add("last", "");  // no final line end
+    TempFolder folder;
+    const std::vector<std::string> read = ReadLines(folder.WriteFile("lines.txt", content));
+    ASSERT_EQ(read.size(), lines.size());
+    for (size_t i = 0; i < lines.size(); ++i) {
+        EXPECT_TRUE(read[i] == lines[i]) << "line " << i;  // not printed: some are huge
+    }
+}
+
 TEST(TextFile, ReadingAMissingFileFailsNamingIt) {
     TempFolder temp;
     const std::string path = JoinPath(temp.Path(), "absent.txt");

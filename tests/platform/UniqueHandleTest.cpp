@@ -16,7 +16,7 @@ struct FakeTraits {
 };
 using FakeHandle = UniqueHandle<FakeTraits>;
 
-TEST(UniqueHandle, ClosesExactlyOnceWhateverOwnsIt) {
+TEST(UniqueHandle, ClosesExactlyOnceWhateverOwnsItAndNeverOnceReleased) {
     closed.clear();
     {
         FakeHandle a(7);
@@ -29,14 +29,11 @@ TEST(UniqueHandle, ClosesExactlyOnceWhateverOwnsIt) {
         EXPECT_EQ(c.get(), 7);
     }
     EXPECT_EQ(closed, (std::vector<int>{9, 7}));
-}
 
-TEST(UniqueHandle, ReleaseHandsOwnershipBack) {
-    closed.clear();
-    FakeHandle a(5);
-    EXPECT_EQ(a.release(), 5);
-    a.reset();
-    EXPECT_TRUE(closed.empty());
+    FakeHandle released(5);
+    EXPECT_EQ(released.release(), 5);
+    released.reset();
+    EXPECT_EQ(closed, (std::vector<int>{9, 7})) << "release hands ownership back";
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include "EngineFixture.h"
 #include "platform/Errors.h"
 #include "platform/IniSettingsStore.h"
-#include "platform/LenientConversions.h"
 
 namespace quorin {
 namespace {
@@ -169,7 +168,7 @@ TEST_F(BadInput, FirstWordBeginningWithAByteOrderMarkSurvivesSaving) {
     EXPECT_EQ(index->Words().Item(1)->Word, "\xEF\xBB\xBFodd");
 }
 
-TEST_F(BadInput, SettingsFileLoadsOrNamesTheLineAndBadValuesNameTheSetting) {
+TEST_F(BadInput, SettingsFileLoadsAwkwardBytesAndBadValuesFailTyped) {
     const auto load = [&](const std::string& text) {
         return IniSettingsStore(program.WriteFile("settings.ini", text));
     };
@@ -178,40 +177,13 @@ TEST_F(BadInput, SettingsFileLoadsOrNamesTheLineAndBadValuesNameTheSetting) {
     EXPECT_EQ(load("[Index]\r\nInterval=7").Get("Index", "Interval", ""), "7");
     EXPECT_EQ(load("[Index]\rFilter=" + kMegabyte).Get("Index", "Filter", "").size(),
               kMegabyte.size());
-    EXPECT_EQ(load("[Index]\nDrive0=D:\xE9t\xE9").Get("Index", "Drive0", ""),
-              "D:\xC3\xA9t\xC3\xA9");
     EXPECT_EQ(load("[Index]\nDrive0=a\0b"s).Get("Index", "Drive0", ""), "a\0b"s);
-    try {
-        load("[Index]\r\nInterval=7\r\nDriveCount\r\n");
-        ADD_FAILURE() << "no error";
-    } catch (const FileError& e) {
-        EXPECT_NE(std::string(e.what()).find("Line 3"), std::string::npos) << e.what();
-    }
-    EXPECT_THROW(load("Interval=7\r\n"), FileError);  // a key before any section
 
     settings.Save("Index", "Interval", "x" + kMegabyte);
     EXPECT_THROW(MakeIndex(), TypeMismatchError);
     settings.Save("Index", "Interval", "24");
     settings.Save("Index", "DriveCount", "5002");
     EXPECT_THROW(MakeIndex(), OutOfRangeError);
-}
-
-TEST(BadInputConversions, LenientBooleansAndNumbersAcceptBothWritersAndNothingElse) {
-    EXPECT_EQ(ParseWholeNumber(" 42 "), 42);
-    EXPECT_EQ(ParseWholeNumber("-2147483648"), INT32_MIN);
-    EXPECT_EQ(ParseWholeNumber("2147483648"), std::nullopt);
-    EXPECT_EQ(ParseWholeNumber("4\0"s), std::nullopt);
-    for (const char* bad : {"", " ", "abc", "1e3", "0x10", "4 2", "--1", "\xE9"}) {
-        EXPECT_EQ(ParseWholeNumber(bad), std::nullopt) << bad;
-    }
-    EXPECT_EQ(ParseLenientBoolean("TRUE"), true);
-    EXPECT_EQ(ParseLenientBoolean(" false "), false);
-    EXPECT_EQ(ParseLenientBoolean("-1"), true);
-    EXPECT_EQ(ParseLenientBoolean("0"), false);
-    EXPECT_EQ(ParseLenientBoolean("99999999999"), true);
-    for (const char* bad : {"", "yes", "Tru", "truee", "nan", "inf", "1e999"}) {
-        EXPECT_EQ(ParseLenientBoolean(bad), std::nullopt) << bad;
-    }
 }
 
 }  // namespace

@@ -5,11 +5,8 @@
 #include <vector>
 
 #include "index/IndexItems.h"
-#include "index/SubstringSearcher.h"
 #include "platform/Errors.h"
 #include "platform/Text.h"
-#include "platform/TextFile.h"
-#include "support/TempFolder.h"
 
 namespace quorin {
 namespace {
@@ -80,57 +77,6 @@ TEST(PackedIndex, FindsExactlyTheNamesAPlainSearchFinds) {
             }
         }
         EXPECT_EQ(items.Find(word, nullptr), expected);
-    }
-}
-
-TEST(PackedIndex, SubstringSearcherAgreesWithFindAtEveryOffset) {
-    std::mt19937 random(5);
-    for (int trial = 0; trial < 3000; ++trial) {
-        std::string text(random() % 80, ' ');
-        for (char& c : text) {
-            c = "AB\n"[random() % 3];
-        }
-        std::string needle(1 + random() % 20, ' ');
-        for (char& c : needle) {
-            c = "AB"[random() % 2];
-        }
-        ASSERT_EQ(SubstringSearcher(needle).Find(text), text.find(needle))
-            << text << " / " << needle;
-    }
-    EXPECT_EQ(SubstringSearcher("").Find("abc"), 0u);
-}
-
-// The reader takes the file in pieces of 256 KB: lines, and CR LF pairs, that straddle the
-// pieces must come out whole, as must a line longer than a piece.
-TEST(PackedIndex, LinesSurviveTheReadersPieces) {
-    constexpr size_t kPiece = 256 * 1024;
-    std::vector<std::string> lines;
-    std::string content;
-    const auto add = [&](const std::string& line, const std::string& end) {
-        lines.push_back(line);
-        content += line + end;
-    };
-    add(std::string(kPiece - 1, 'a'), "\r\n");  // CR ends the first piece, LF begins the next
-    add("b", "\r");
-    add(std::string(3 * kPiece, 'c'), "\n");
-    add("caf\xE9", "\r\n");
-    lines.back() = "caf\xC3\xA9";
-    while (content.size() % kPiece != kPiece - 1) {
-        add("filler", "\n");
-    }
-    add("", "\r");    // a lone CR as the last byte of a piece
-    add("last", "");  // no final line end
-    TempFolder folder;
-    TextFileReader reader(folder.WriteFile("lines.txt", content));
-    std::vector<std::string> read;
-    std::string line;
-    while (reader.ReadLine(line)) {
-        read.push_back(line);
-    }
-    EXPECT_TRUE(reader.AtEnd());
-    ASSERT_EQ(read.size(), lines.size());
-    for (size_t i = 0; i < lines.size(); ++i) {
-        EXPECT_EQ(read[i], lines[i]) << "line " << i;
     }
 }
 

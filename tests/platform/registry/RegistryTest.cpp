@@ -26,14 +26,10 @@ class RegistryTest : public ::testing::Test {
     clsRegistry registry_;
 };
 
-TEST_F(RegistryTest, ReadsAnExtensionsTypeAndTheTypesDescription) {
+TEST_F(RegistryTest, ReadsAnExtensionsTypeAndItsDescriptionAndAnythingMissingAsEmpty) {
     classes_.RegisterType(".qzt", "QuorinTest.Text", "Quorin test text", "");
     EXPECT_EQ(Read(".qzt"), RegistryValue("QuorinTest.Text"));
     EXPECT_EQ(Read("QuorinTest.Text"), RegistryValue("Quorin test text"));
-}
-
-TEST_F(RegistryTest, AnythingMissingReadsAsTheEmptyValue) {
-    classes_.RegisterType(".qzt", "QuorinTest.Text", "", "");
     EXPECT_TRUE(Read(".qzunregistered").IsEmpty());
     EXPECT_TRUE(Read(".qzt", "NoSuchValue").IsEmpty());
     EXPECT_TRUE(Read("QuorinTest.Text\\DefaultIcon").IsEmpty());
@@ -61,24 +57,17 @@ TEST_F(RegistryTest, TextAndNumbersComeBackAsStoredOtherTypesAsEmpty) {
     EXPECT_TRUE(Read(key, "nodata").IsEmpty());
 }
 
+// Subkeys end with one empty name, and a name of fifty characters ends the listing early.
 TEST_F(RegistryTest, ListsSubkeysFollowedByOneEmptyName) {
-    classes_.CreateKey("QuorinTest.Parent\\First");
-    classes_.CreateKey("QuorinTest.Parent\\Second");
-    classes_.CreateKey("QuorinTest.Parent\\Third\\Grandchild");
-    classes_.CreateKey("QuorinTest.Childless");
-
+    const std::string fits = "a" + std::string(48, 'x');
+    for (const std::string& key :
+         Names{"Parent\\First", "Parent\\Second", "Parent\\Third\\Grandchild", "Childless",
+               "Long\\" + fits, "Long\\b" + std::string(49, 'x'), "Long\\c"}) {
+        classes_.CreateKey("QuorinTest." + key);
+    }
     EXPECT_EQ(List("QuorinTest.Parent"), (Names{"First", "Second", "Third", ""}));
     EXPECT_EQ(List("QuorinTest.Childless"), Names{""});
     EXPECT_EQ(List("QuorinTest.Missing"), Names{""});
-}
-
-TEST_F(RegistryTest, ANameOfFiftyCharactersEndsTheListing) {
-    const std::string fits = "a" + std::string(48, 'x');
-    const std::string tooLong = "b" + std::string(49, 'x');
-    classes_.CreateKey("QuorinTest.Long\\" + fits);
-    classes_.CreateKey("QuorinTest.Long\\" + tooLong);
-    classes_.CreateKey("QuorinTest.Long\\c");
-
     EXPECT_EQ(List("QuorinTest.Long"), (Names{fits, ""}));
 }
 
