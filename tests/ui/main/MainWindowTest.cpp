@@ -510,24 +510,14 @@ TEST_F(MainWindowTest, TheSessionEndingWhileIdleUnloadsAtOnce) {
     EXPECT_EQ(unloads, 1);
 }
 
-class GoTest : public MainWindowTest {
-  protected:
-    void SetUp() override {
-        tree.WriteFile("notes.txt", "n");
-        tree.WriteFile("alpha1.doc", "a");
-        tree.WriteFile("alpha2.doc", "a");
-        Load();
-        Build();
-        form->Show();
-    }
-    void AssignWord(const std::string& word, const std::string& fileName) {
-        clsIndex& engine = index.Get();
-        engine.AddWord({word, fileName, *engine.GetDirectory(tree.Path()), {}});
-        form->AddWords();
-    }
-};
-
-TEST_F(GoTest, AWordWithoutMatchesIsToldUntilTheWordChangesAndAnEmptyBoxDoesNothing) {
+// Which action Go takes is GoCommandTest's; this is the window carrying out each one.
+TEST_F(MainWindowTest, GoCarriesOutEachActionInTheWindow) {
+    tree.WriteFile("notes.txt", "n");
+    tree.WriteFile("alpha1.doc", "a");
+    tree.WriteFile("alpha2.doc", "a");
+    Load();
+    Build();
+    form->Show();
     Command(kIdGo);
     EXPECT_EQ(Text(kIdFile), "");
     SetWord("xyz");
@@ -538,47 +528,43 @@ TEST_F(GoTest, AWordWithoutMatchesIsToldUntilTheWordChangesAndAnEmptyBoxDoesNoth
     EXPECT_TRUE(IsWindowVisible(Window()));
     SendMessageW(Window(), WM_COMMAND, MAKEWPARAM(kIdWord, CBN_EDITCHANGE),
                  reinterpret_cast<LPARAM>(Control(kIdWord)));
-    EXPECT_EQ(Text(kIdFile), "");
-}
+    EXPECT_EQ(Text(kIdFile), "") << "told until the word changes";
 
-TEST_F(GoTest, AnAssignedWordWinsOverTheIndexAndHidesTheWindow) {
-    AssignWord("notes", "alpha1.doc");
+    SetWord("notes");
+    Command(kIdGo);
+    ASSERT_EQ(shell.opened.size(), 1u);
+    EXPECT_EQ(shell.opened[0].file, JoinPath(tree.Path(), "notes.txt"));
+    EXPECT_EQ(shell.opened[0].workingFolder, tree.Path());
+    EXPECT_EQ(shell.opened[0].parameters, "");
+    EXPECT_EQ(shell.opened[0].showCommand, 5);
+    EXPECT_TRUE(IsWindowVisible(Window())) << "one match leaves the window as it is";
+    EXPECT_EQ(Text(kIdWord), "notes");
+    EXPECT_FALSE(IsWindowVisible(Control(kIdSearchProgress))) << "the search bar goes again";
+
+    SetWord("alpha");
+    SendMessageW(GetWindow(Control(kIdWord), GW_CHILD), WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_EQ(matches.words, std::vector<std::string>{"alpha"}) << "Enter in the box is Go";
+    EXPECT_EQ(matches.counts, std::vector<int>{2});
+    EXPECT_EQ(shell.opened.size(), 1u);
+    EXPECT_FALSE(IsWindowVisible(Window()));
+
+    form->Show();
+    index.Get().AddWord({"notes", "alpha1.doc", *index.Get().GetDirectory(tree.Path()), {}});
+    form->AddWords();
     std::string captionWhileOpening;
     shell.onOpen = [&] { captionWhileOpening = Text(kIdFile); };
     SetWindowPos(Window(), nullptr, 210, 170, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     SetWord("NOTES");
     Command(kIdGo);
-    ASSERT_EQ(shell.opened.size(), 1u);
-    EXPECT_EQ(shell.opened[0].file, JoinPath(tree.Path(), "alpha1.doc"));
-    EXPECT_EQ(shell.opened[0].workingFolder, tree.Path() + "\\");
-    EXPECT_EQ(shell.opened[0].parameters, "");
-    EXPECT_EQ(shell.opened[0].showCommand, 5);
+    ASSERT_EQ(shell.opened.size(), 2u);
+    EXPECT_EQ(shell.opened[1].file, JoinPath(tree.Path(), "alpha1.doc"));
+    EXPECT_EQ(shell.opened[1].workingFolder, tree.Path() + "\\");
     EXPECT_EQ(captionWhileOpening, "Opening NOTES...");
     EXPECT_EQ(Text(kIdFile), "");
-    EXPECT_FALSE(IsWindowVisible(Window()));
+    EXPECT_FALSE(IsWindowVisible(Window())) << "an assigned word hides the window";
     const int dpi = WindowDpi(Window());
     EXPECT_EQ(form->RememberedPosition().x, PixelsToTwips(210, dpi));
     EXPECT_EQ(form->RememberedPosition().y, PixelsToTwips(170, dpi));
-}
-
-TEST_F(GoTest, OneMatchOpensAndLeavesTheWindowAsItIs) {
-    SetWord("notes");
-    Command(kIdGo);
-    ASSERT_EQ(shell.opened.size(), 1u);
-    EXPECT_EQ(shell.opened[0].file, JoinPath(tree.Path(), "notes.txt"));
-    EXPECT_EQ(shell.opened[0].workingFolder, tree.Path()) << "no trailing separator here";
-    EXPECT_TRUE(IsWindowVisible(Window()));
-    EXPECT_EQ(Text(kIdWord), "notes");
-    EXPECT_FALSE(IsWindowVisible(Control(kIdSearchProgress))) << "the search bar goes again";
-}
-
-TEST_F(GoTest, SeveralMatchesGoToTheMatchesWindowAndHideTheMainWindow) {
-    SetWord("alpha");
-    SendMessageW(GetWindow(Control(kIdWord), GW_CHILD), WM_KEYDOWN, VK_RETURN, 0);
-    EXPECT_EQ(matches.words, std::vector<std::string>{"alpha"}) << "Enter in the box is Go";
-    EXPECT_EQ(matches.counts, std::vector<int>{2});
-    EXPECT_TRUE(shell.opened.empty());
-    EXPECT_FALSE(IsWindowVisible(Window()));
 }
 
 class CompletionTest : public MainWindowTest {
@@ -615,38 +601,24 @@ class CompletionTest : public MainWindowTest {
     }
 };
 
-TEST_F(CompletionTest, TypingCompletesWithTheEntryAndSelectsTheTail) {
-    Assign({"Notepad"});
-    Type("n");
-    EXPECT_EQ(Shown(), "N[otepad]");
-    Type("o");
-    EXPECT_EQ(Shown(), "No[tepad]");
-    SetWord("");
-    Type("NOTE");
-    EXPECT_EQ(Shown(), "Note[pad]") << "the entry's capitalisation wins";
-}
-
-TEST_F(CompletionTest, BackspaceAndDeleteLetTheUserRemoveTheTail) {
-    Assign({"Notepad"});
-    Type("no");
-    Press(VK_BACK);
-    EXPECT_EQ(Shown(), "No[]");
-    Type("t");
-    EXPECT_EQ(Shown(), "Not[epad]") << "a further letter completes again";
-    Press(VK_DELETE);
-    EXPECT_EQ(Shown(), "Not[]");
-}
-
-TEST_F(CompletionTest, NoEntryLeavesTheTextAndTheTopEntryWins) {
+TEST_F(CompletionTest, TypingCompletesWithTheTopEntryAndTheUserCanRemoveTheTail) {
     Type("no");
     EXPECT_EQ(Shown(), "no[]") << "an empty list never completes";
     Assign({"Notes", "Notepad"});
     SetWord("");
+    Type("n");
+    EXPECT_EQ(Shown(), "N[otes]") << "the entry's capitalisation, the entry nearer the top";
+    Type("o");
+    EXPECT_EQ(Shown(), "No[tes]");
+    Press(VK_BACK);
+    EXPECT_EQ(Shown(), "No[]");
+    Type("t");
+    EXPECT_EQ(Shown(), "Not[es]") << "a further letter completes again";
+    Press(VK_DELETE);
+    EXPECT_EQ(Shown(), "Not[]");
+    SetWord("");
     Type("xy");
     EXPECT_EQ(Shown(), "xy[]");
-    SetWord("");
-    Type("note");
-    EXPECT_EQ(Shown(), "Note[s]") << "the entry nearer the top";
 }
 
 TEST_F(CompletionTest, ReloadingTheWordsKeepsTheTypedTextAndItsSelection) {
