@@ -51,7 +51,7 @@ TEST_F(MainWindowTest, LoadsHiddenWithTabsPanelsAndEveryText) {
     RECT client{};
     GetClientRect(Window(), &client);
     EXPECT_EQ(Twips(client.right, Window()), 5310);
-    RECT counter = ScreenRect(Control(kIdCounter));
+    RECT counter = ScreenRect(Control(kIdCounter));  // on the progress panel
     MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&counter), 2);
     EXPECT_EQ(client.bottom - counter.bottom, TwipsToPixels(90, WindowDpi(Window())))
         << "the lowest control, 90 twips above the bottom edge";
@@ -62,41 +62,31 @@ TEST_F(MainWindowTest, LoadsHiddenWithTabsPanelsAndEveryText) {
         EXPECT_EQ(tab.left, previous.right) << "tab " << i << " touches the one before";
         previous = tab;
     }
-    RECT exitTab = ScreenRect(Control(kIdTab + 4));
-    MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&exitTab), 2);
-    EXPECT_EQ(exitTab.right, client.right - TwipsToPixels(60, WindowDpi(Window())))
+    EXPECT_EQ(Window::RectInParent(Control(kIdTab + 4)).right,
+              client.right - TwipsToPixels(60, WindowDpi(Window())))
         << "60 twips from the right edge";
 
-    for (int i = 0; i < kPanelCount; ++i) {
-        HWND panel = GetDlgItem(Window(), kIdPanel + i);
-        RECT place = ScreenRect(panel);
-        MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&place), 2);
-        EXPECT_EQ(place.left, 0);
-        EXPECT_EQ(Twips(place.top, Window()), 240);
-    }
     EXPECT_EQ(PanelsShown(), (std::vector<bool>{true, false, false, false, false, false}));
 
     EXPECT_EQ(ChildTexts(Window()),
               (std::vector<std::string>{"Go", "Index", "Options", "Help", "Exit"}));
-    const auto panelTexts = [this](int i) {
-        return ChildTexts(GetDlgItem(Window(), kIdPanel + i));
+    const std::vector<std::string> panelTexts[kPanelCount] = {
+        {"Enter word:", "Go"},
+        {"Index last updated:", "Index automatically updated every 1 day(s).", "Update Index Now"},
+        {"General Options", "Change file types that are indexed", "Add/delete assigned words"},
+        {"Click here for help", "Quorin", "Veltaro, Inc."},
+        {"Please wait while Quorin shuts down..."},
+        {"Please wait while Quorin indexes your hard drive. Depending on how much stuff you have, "
+         "this may take a few minutes...",
+         "# of folders indexed:", "Cancel"},
     };
-    EXPECT_EQ(panelTexts(0), (std::vector<std::string>{"Enter word:", "Go"}));
-    EXPECT_EQ(panelTexts(1),
-              (std::vector<std::string>{
-                  "Index last updated:", "Index automatically updated every 1 day(s).",
-                  "Update Index Now"}));
-    EXPECT_EQ(panelTexts(2),
-              (std::vector<std::string>{"General Options", "Change file types that are indexed",
-                                        "Add/delete assigned words"}));
-    EXPECT_EQ(panelTexts(3),
-              (std::vector<std::string>{"Click here for help", "Quorin", "Veltaro, Inc."}));
-    EXPECT_EQ(panelTexts(4), (std::vector<std::string>{"Please wait while Quorin shuts down..."}));
-    EXPECT_EQ(panelTexts(5),
-              (std::vector<std::string>{
-                  "Please wait while Quorin indexes your hard drive. Depending on how much stuff "
-                  "you have, this may take a few minutes...",
-                  "# of folders indexed:", "Cancel"}));
+    for (int i = 0; i < kPanelCount; ++i) {
+        const HWND panel = GetDlgItem(Window(), kIdPanel + i);
+        EXPECT_EQ(ChildTexts(panel), panelTexts[i]) << "panel " << i;
+        const RECT place = Window::RectInParent(panel);
+        EXPECT_EQ(place.left, 0);
+        EXPECT_EQ(Twips(place.top, Window()), 240);
+    }
 
     const TrayRecord& record = tray.Record();
     EXPECT_EQ(TrayTip(record), "Quorin");
