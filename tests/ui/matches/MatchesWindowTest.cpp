@@ -331,7 +331,15 @@ TEST_F(MatchesWindowTest, KeepsItsPlaceInTwipsAndNeverGetsSmallerThan3000) {
     RECT overlap{};
     EXPECT_FALSE(IntersectRect(&overlap, &check, &open));
     EXPECT_LE(TextHeight(GetDlgItem(restored, kMatchesLabelId)), label.bottom - label.top);
+
+    // Minimized, it saves its minimized place: no minimum is forced on it.
+    ShowWindow(restored, SW_MINIMIZE);
+    ASSERT_TRUE(IsIconic(restored));
+    const TwipsSize minimized = OuterTwips(restored);
     DestroyWindow(restored);
+    EXPECT_EQ(Saved("Width"), std::to_string(minimized.width));
+    EXPECT_EQ(Saved("Height"), std::to_string(minimized.height));
+    EXPECT_LT(minimized.height, 3000);
 }
 
 TEST_F(MatchesWindowTest, ComesUpInsideTheScreensWorkArea) {
@@ -359,17 +367,6 @@ TEST_F(MatchesWindowTest, ComesUpInsideTheScreensWorkArea) {
     EXPECT_NEAR(OuterTwips(moved).width, 6000, 15);
     EXPECT_NEAR(OuterTwips(moved).height, 4500, 15);
     DestroyWindow(moved);
-}
-
-TEST_F(MatchesWindowTest, AMinimizedWindowSavesItsMinimizedPlace) {
-    const HWND form = Load();
-    ShowWindow(form, SW_MINIMIZE);
-    ASSERT_TRUE(IsIconic(form));
-    const TwipsSize minimized = OuterTwips(form);
-    DestroyWindow(form);
-    EXPECT_EQ(Saved("Width"), std::to_string(minimized.width));
-    EXPECT_EQ(Saved("Height"), std::to_string(minimized.height));
-    EXPECT_LT(minimized.height, 3000);  // no minimum is forced on a minimized window
 }
 
 TEST_F(MatchesWindowTest, AFailureWhileFillingIsShownAndKeepsTheRowsSoFar) {
