@@ -144,28 +144,25 @@ TEST_F(TabLabelTest, PressDragOutAndReleaseClicksAndSelects) {
     EXPECT_EQ(GetCapture(), nullptr);
 }
 
-TEST_F(TabLabelTest, ReleaseWithoutPressDoesNothing) {
+// A release clicks only after a press the tab still holds; disabling ends a hover.
+TEST_F(TabLabelTest, ReleaseWithoutAPressOrAfterLosingTheCaptureDoesNothing) {
     SendMouse(index.hwnd(), WM_LBUTTONUP, 3, 3);
     EXPECT_TRUE(parent.commands.empty());
     EXPECT_FALSE(index.Selected());
-}
 
-TEST_F(TabLabelTest, DisablingAHoveredTabEndsTheHover) {
-    SendMouse(index.hwnd(), WM_MOUSEMOVE, 3, 3);
-    index.SetEnabled(false);
-    EXPECT_FALSE(index.Enabled());
-    EXPECT_EQ(GetCapture(), nullptr);
-    index.SetEnabled(true);
-    EXPECT_EQ(Ink(index.hwnd()), indexInk);
-}
-
-TEST_F(TabLabelTest, CaptureTakenByAnotherWindowCancelsThePress) {
     SendMouse(index.hwnd(), WM_LBUTTONDOWN, 3, 3);
     SetCapture(parent.hwnd());
     SendMouse(index.hwnd(), WM_LBUTTONUP, -4, 3);
     EXPECT_TRUE(parent.commands.empty());
     EXPECT_EQ(GetCapture(), parent.hwnd());  // not released: no longer the tab's
     ReleaseCapture();
+
+    SendMouse(index.hwnd(), WM_MOUSEMOVE, 3, 3);
+    index.SetEnabled(false);
+    EXPECT_FALSE(index.Enabled());
+    EXPECT_EQ(GetCapture(), nullptr);
+    index.SetEnabled(true);
+    EXPECT_EQ(Ink(index.hwnd()), indexInk);
 }
 
 TEST(LabelCreation, WithoutACaptionBothLabelsShowTheDefaultOne) {

@@ -51,7 +51,6 @@ class FakeOptionsOpener final : public OptionsOpener {
 class HookedPump final : public EventPump {
   public:
     void DoEvents() override {
-        ++calls;
         pump.DoEvents();
         if (onEvents) {
             onEvents();
@@ -59,7 +58,6 @@ class HookedPump final : public EventPump {
     }
     MessagePump pump;
     std::function<void()> onEvents;
-    int calls = 0;
 };
 
 // A program folder, a tree to index (its root is the only drive) and the program's services.

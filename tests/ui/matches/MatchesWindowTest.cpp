@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "cli/SilentProgressWindow.h"
@@ -20,6 +21,7 @@
 #include "support/TempFolder.h"
 #include "ui/Dpi.h"
 #include "ui/MessagePump.h"
+#include "ui/WindowText.h"
 #include "ui/matches/MatchesLayout.h"
 #include "ui/matches/frmMatches.h"
 
@@ -122,16 +124,24 @@ class MatchesWindowTest : public ::testing::Test {
     }
 
     // The window as Go leaves it, but hidden.
-    HWND Load() {
+    HWND Load(std::string word, MatchList matches) {
         frmMatches& form = frmMatches::Load(Host());
-        form.Word("plan");
-        form.Matches(*index_->FindMatch("plan"));
+        form.Word(std::move(word));
+        form.Matches(std::move(matches));
         return form.hwnd();
     }
+    HWND Load() { return Load("plan", *index_->FindMatch("plan")); }
 
     static HWND List(HWND form) { return GetDlgItem(form, kMatchesListId); }
 
     std::string Saved(std::string_view key) const { return settings_.Get("Matches", key, "-"); }
+    void SavePlace(const std::string& left, const std::string& top, const std::string& width,
+                   const std::string& height) {
+        settings_.Save("Matches", "Left", left);
+        settings_.Save("Matches", "Top", top);
+        settings_.Save("Matches", "Width", width);
+        settings_.Save("Matches", "Height", height);
+    }
 
     ScratchClasses classes_;
     TempFolder program_;
@@ -144,19 +154,13 @@ class MatchesWindowTest : public ::testing::Test {
     int wordListRefreshes_ = 0;
 };
 
-TEST_F(MatchesWindowTest, AReaderCanNameTheList) {
-    EXPECT_EQ(UnnamedControls(Load()), std::vector<std::string>{});
-}
-
 TEST_F(MatchesWindowTest, ListsTheMatchesInCollectionOrderWithTheFirstSelected) {
     const HWND form = Load();
     const HWND list = List(form);
-
-    wchar_t text[200] = {};
-    GetWindowTextW(GetDlgItem(form, kMatchesLabelId), text, 200);
-    EXPECT_EQ(Narrow(text), "3 matches found. Please choose from the following.");
-    GetWindowTextW(form, text, 200);
-    EXPECT_EQ(Narrow(text), "Multiple Matches");
+    EXPECT_EQ(UnnamedControls(form), std::vector<std::string>{}) << "a reader names each";
+    EXPECT_EQ(WindowText(GetDlgItem(form, kMatchesLabelId)),
+              "3 matches found. Please choose from the following.");
+    EXPECT_EQ(WindowText(form), "Multiple Matches");
 
     EXPECT_EQ(Column(list, 0), (std::vector<std::string>{"Plan B.qzp", "plan a.qzx", "Plans.exe"}));
     EXPECT_EQ(Column(list, 1), (std::vector<std::string>{"C:\\Work", "C:\\Archive", "C:\\Music"}));
@@ -185,23 +189,6 @@ TEST_F(MatchesWindowTest, ListsTheMatchesInCollectionOrderWithTheFirstSelected) 
     DestroyWindow(form);
 }
 
-TEST_F(MatchesWindowTest, ColumnClicksSortByTheColumnsTextWithoutRegardToCase) {
-    const HWND form = Load();
-    const HWND list = List(form);
-    using Names = std::vector<std::string>;
-
-    ClickColumn(list, 0);  // the list starts keyed on "Name", ascending: this flips it
-    EXPECT_EQ(Column(list, 0), (Names{"Plans.exe", "Plan B.qzp", "plan a.qzx"}));
-    ClickColumn(list, 0);
-    EXPECT_EQ(Column(list, 0), (Names{"plan a.qzx", "Plan B.qzp", "Plans.exe"}));
-    ClickColumn(list, 1);
-    EXPECT_EQ(Column(list, 1), (Names{"C:\\Archive", "C:\\Music", "C:\\Work"}));
-    EXPECT_EQ(Column(list, 0), (Names{"plan a.qzx", "Plans.exe", "Plan B.qzp"}));
-    ClickColumn(list, 1);
-    EXPECT_EQ(Column(list, 1), (Names{"C:\\Work", "C:\\Music", "C:\\Archive"}));
-    DestroyWindow(form);
-}
-
 TEST_F(MatchesWindowTest, AssociationGoesToTheRowsPositionWhileTheRowsOwnFileOpens) {
     const HWND plain = Load();
     SelectRow(List(plain), 1);
@@ -211,7 +198,7 @@ TEST_F(MatchesWindowTest, AssociationGoesToTheRowsPositionWhileTheRowsOwnFileOpe
     EXPECT_FALSE(IsWindow(plain));
 
     const HWND form = Load();
-    ClickColumn(List(form), 0);  // rows: Plans.exe, Plan B.qzp, plan a.qzx
+    ClickColumn(List(form), 0);  // the first click on Name sorts descending: plan a.qzx last
     SelectRow(List(form), 2);
     Button_SetCheck(GetDlgItem(form, kMatchesAssociateId), BST_CHECKED);
     ClickButton(form, kMatchesOpenId);
@@ -255,7 +242,7 @@ TEST_F(MatchesWindowTest, AWordAssignedAfterARebuildGoesToTheFolderItsRowShowed)
     EXPECT_EQ(index_->GetPath(assigned->Directory), "C:\\Music");
 }
 
-TEST_F(MatchesWindowTest, EnterInTheListOpensAsADoubleClickDoes) {
+TEST_F(MatchesWindowTest, EnterOnARowFoundByTypingOpensAsADoubleClickDoes) {
     MessagePump pump;
     const HWND clicked = Load();
     SelectRow(List(clicked), 1);  // the first click of the two
@@ -266,7 +253,7 @@ TEST_F(MatchesWindowTest, EnterInTheListOpensAsADoubleClickDoes) {
     pump.DoEvents();
 
     const HWND pressed = Load();
-    SelectRow(List(pressed), 1);
+    SendMessageW(List(pressed), WM_CHAR, 'p', 1);  // the next name after the first row's
     PressKey(List(pressed), VK_RETURN);
     pump.DoEvents();
 
@@ -277,22 +264,6 @@ TEST_F(MatchesWindowTest, EnterInTheListOpensAsADoubleClickDoes) {
         EXPECT_EQ(call.file, "C:\\Archive\\plan a.qzx");
         EXPECT_EQ(call.workingFolder, "C:\\Archive");
     }
-}
-
-TEST_F(MatchesWindowTest, TypingTheStartOfANameSelectsItsRowForEnter) {
-    auto items = std::make_shared<IndexItems>();
-    for (const char* name : {"alpha report", "beta report", "gamma report"}) {
-        items->Add(name, 0);
-    }
-    frmMatches& form = frmMatches::Load(Host());
-    const HWND window = form.hwnd();
-    form.Word("report");
-    form.Matches(MatchList(items, {1, 2, 3}));
-    SendMessageW(List(window), WM_CHAR, 'g', 1);
-    PressKey(List(window), VK_RETURN);
-    MessagePump().DoEvents();
-    ASSERT_EQ(shell_.opened.size(), 1u);
-    EXPECT_EQ(shell_.opened[0].file, "C:\\Work\\gamma report");
 }
 
 TEST_F(MatchesWindowTest, TheDialogKeysOpenTheFocusedListsRowAndEscapeCloses) {
@@ -325,10 +296,7 @@ TEST_F(MatchesWindowTest, KeepsItsPlaceInTwipsAndNeverGetsSmallerThan3000) {
     EXPECT_EQ(Saved("Height"), std::to_string(size.height));
 
     // Read back rounded, as the main window reads its place.
-    settings_.Save("Matches", "Left", "1500");
-    settings_.Save("Matches", "Top", "1200.4");
-    settings_.Save("Matches", "Width", "6000.5");
-    settings_.Save("Matches", "Height", "4500");
+    SavePlace("1500", "1200.4", "6000.5", "4500");
     const HWND restored = Load();
     GetWindowRect(restored, &frame);
     EXPECT_NEAR(PixelsToTwips(frame.left, ScreenDpi()), 1500, 15);
@@ -359,7 +327,15 @@ TEST_F(MatchesWindowTest, KeepsItsPlaceInTwipsAndNeverGetsSmallerThan3000) {
     RECT overlap{};
     EXPECT_FALSE(IntersectRect(&overlap, &check, &open));
     EXPECT_LE(TextHeight(GetDlgItem(restored, kMatchesLabelId)), label.bottom - label.top);
+
+    // Minimized, it saves its minimized place: no minimum is forced on it.
+    ShowWindow(restored, SW_MINIMIZE);
+    ASSERT_TRUE(IsIconic(restored));
+    const TwipsSize minimized = OuterTwips(restored);
     DestroyWindow(restored);
+    EXPECT_EQ(Saved("Width"), std::to_string(minimized.width));
+    EXPECT_EQ(Saved("Height"), std::to_string(minimized.height));
+    EXPECT_LT(minimized.height, 3000);
 }
 
 TEST_F(MatchesWindowTest, ComesUpInsideTheScreensWorkArea) {
@@ -378,10 +354,8 @@ TEST_F(MatchesWindowTest, ComesUpInsideTheScreensWorkArea) {
 
     // Saved partly beyond the bottom right corner, as a place saved at another DPI can be.
     const int dpi = ScreenDpi();
-    settings_.Save("Matches", "Left", std::to_string(PixelsToTwips(work.right - 100, dpi)));
-    settings_.Save("Matches", "Top", std::to_string(PixelsToTwips(work.bottom - 50, dpi)));
-    settings_.Save("Matches", "Width", "6000");
-    settings_.Save("Matches", "Height", "4500");
+    SavePlace(std::to_string(PixelsToTwips(work.right - 100, dpi)),
+              std::to_string(PixelsToTwips(work.bottom - 50, dpi)), "6000", "4500");
     const HWND moved = Load();
     GetWindowRect(moved, &frame);
     EXPECT_EQ(frame.right, work.right);
@@ -391,24 +365,10 @@ TEST_F(MatchesWindowTest, ComesUpInsideTheScreensWorkArea) {
     DestroyWindow(moved);
 }
 
-TEST_F(MatchesWindowTest, AMinimizedWindowSavesItsMinimizedPlace) {
-    const HWND form = Load();
-    ShowWindow(form, SW_MINIMIZE);
-    ASSERT_TRUE(IsIconic(form));
-    const TwipsSize minimized = OuterTwips(form);
-    DestroyWindow(form);
-    EXPECT_EQ(Saved("Width"), std::to_string(minimized.width));
-    EXPECT_EQ(Saved("Height"), std::to_string(minimized.height));
-    EXPECT_LT(minimized.height, 3000);  // no minimum is forced on a minimized window
-}
-
 TEST_F(MatchesWindowTest, AFailureWhileFillingIsShownAndKeepsTheRowsSoFar) {
     auto items = std::make_shared<IndexItems>();
     items->Add("first.qzx", 0);
-    frmMatches& form = frmMatches::Load(Host());
-    const HWND window = form.hwnd();
-    form.Word("first");
-    form.Matches(MatchList(items, {1, 7}));  // the second match refers to no record
+    const HWND window = Load("first", MatchList(items, {1, 7}));  // the second refers to no record
 
     ASSERT_EQ(prompter_.boxes.size(), 1u);
     EXPECT_EQ(prompter_.boxes[0].title, "Matches");
@@ -437,15 +397,11 @@ TEST_F(MatchesWindowTest, AThousandRowsShowCountSortAndAssociateByPosition) {
         items->Add(ManyName(i), i % 3);
         positions.push_back(i + 1);
     }
-    frmMatches& loaded = frmMatches::Load(Host());
-    const HWND form = loaded.hwnd();
+    const HWND form = Load("many", MatchList(items, positions));
     const HWND list = List(form);
-    loaded.Word("many");
-    loaded.Matches(MatchList(items, positions));
 
-    wchar_t label[200] = {};
-    GetWindowTextW(GetDlgItem(form, kMatchesLabelId), label, 200);
-    EXPECT_EQ(Narrow(label), "1000 matches found. Please choose from the following.");
+    EXPECT_EQ(WindowText(GetDlgItem(form, kMatchesLabelId)),
+              "1000 matches found. Please choose from the following.");
     ASSERT_EQ(ListView_GetItemCount(list), kRows);
     EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_SELECTED), 0);
     const auto text = [list](int row, int column) {
@@ -474,6 +430,8 @@ TEST_F(MatchesWindowTest, AThousandRowsShowCountSortAndAssociateByPosition) {
     expectSorted(1, 1, "by Location, ascending");
     EXPECT_EQ(Narrow(text(0, 1)), "C:\\Archive");
     EXPECT_EQ(Narrow(text(0, 0)), ManyName(1));  // the first of its folder: the sort is stable
+    ClickColumn(list, 1);
+    expectSorted(1, -1, "by Location, descending");
     ClickColumn(list, 0);
     expectSorted(0, 1, "by Name, ascending");
     ClickColumn(list, 0);

@@ -3,20 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "QuorinVersion.h"
-#include "platform/Text.h"
 #include "ui/Dpi.h"
+#include "ui/WindowText.h"
 
 namespace quorin {
 namespace {
 
 HWND SplashWindow() {
     return FindWindowW(kSplashClass, nullptr);
-}
-
-std::string ControlText(HWND parent, int id) {
-    wchar_t text[128] = {};
-    GetDlgItemTextW(parent, id, text, 128);
-    return Narrow(text);
 }
 
 TEST(Splash, ShowsThePictureSizeTheVersionAndAnOkThatClosesIt) {
@@ -31,8 +25,8 @@ TEST(Splash, ShowsThePictureSizeTheVersionAndAnOkThatClosesIt) {
     GetClientRect(window, &client);
     EXPECT_EQ(client.right, MulDiv(400, ScreenDpi(), 96));
     EXPECT_EQ(client.bottom, MulDiv(220, ScreenDpi(), 96));
-    EXPECT_EQ(ControlText(window, kSplashVersionId), "Version " QUORIN_VERSION_TEXT);
-    EXPECT_EQ(ControlText(window, kSplashOkId), "OK");
+    EXPECT_EQ(WindowText(GetDlgItem(window, kSplashVersionId)), "Version " QUORIN_VERSION_TEXT);
+    EXPECT_EQ(WindowText(GetDlgItem(window, kSplashOkId)), "OK");
 
     SendDlgItemMessageW(window, kSplashOkId, BM_CLICK, 0, 0);
     EXPECT_FALSE(IsWindow(window));
