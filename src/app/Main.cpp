@@ -7,6 +7,7 @@
 #include "platform/Errors.h"
 #include "ui/Hourglass.h"
 #include "ui/dialogs/frmWelcome.h"
+#include "ui/main/MainSettings.h"
 #include "ui/splash/Splash.h"
 
 namespace quorin {
@@ -16,9 +17,6 @@ namespace {
 constexpr std::string_view kMissingIndexText =
     "Your index file is either missing or corrupted. Would you like to generate a new index file "
     "now? (Answering no will exit the program.)";
-
-// "1" once the wizard's Finish has built the first index on this machine.
-constexpr std::string_view kConfiguredKey = "Configured";
 
 }  // namespace
 
@@ -73,22 +71,25 @@ void Startup::WriteMainSettings() {
     if (folder.ends_with(':')) {
         folder += '\\';
     }
-    services_.settings.Save("Main", "Path", folder + "\\");
-    services_.settings.Save("Main", "VersionMajor", std::to_string(QUORIN_VERSION_MAJOR));
-    services_.settings.Save("Main", "VersionMinor", std::to_string(QUORIN_VERSION_MINOR));
-    services_.settings.Save("Main", "VersionRevision", std::to_string(QUORIN_VERSION_REVISION));
+    services_.settings.Save(MainSettings::kSection, MainSettings::kPath, folder + "\\");
+    services_.settings.Save(MainSettings::kSection, MainSettings::kVersionMajor,
+                            std::to_string(QUORIN_VERSION_MAJOR));
+    services_.settings.Save(MainSettings::kSection, MainSettings::kVersionMinor,
+                            std::to_string(QUORIN_VERSION_MINOR));
+    services_.settings.Save(MainSettings::kSection, MainSettings::kVersionRevision,
+                            std::to_string(QUORIN_VERSION_REVISION));
 }
 
 // An installation from before the wizard that has an index of its own was configured then: it
 // is marked so and goes on as before, rather than meeting the wizard after an update.
 bool Startup::Configured() {
-    if (services_.settings.Get("Main", kConfiguredKey, "") == "1") {
+    if (services_.settings.Get(MainSettings::kSection, MainSettings::kConfigured, "") == "1") {
         return true;
     }
     if (services_.index.Get().LastUpdated == 0) {
         return false;
     }
-    services_.settings.Save("Main", kConfiguredKey, "1");
+    services_.settings.Save(MainSettings::kSection, MainSettings::kConfigured, "1");
     return true;
 }
 
@@ -100,7 +101,7 @@ bool Startup::RunFirstStartWizard() {
     if (WizardActive()) {
         return false;
     }
-    services_.settings.Save("Main", kConfiguredKey, "1");
+    services_.settings.Save(MainSettings::kSection, MainSettings::kConfigured, "1");
     return true;
 }
 

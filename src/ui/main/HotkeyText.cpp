@@ -8,13 +8,12 @@
 
 #include "platform/SettingsStore.h"
 #include "platform/Text.h"
+#include "ui/main/MainSettings.h"
 
 namespace quorin {
 
 namespace {
 
-constexpr std::string_view kSection = "Main";
-constexpr std::string_view kKey = "Hotkey";
 constexpr std::string_view kUnknownKeyPrefix = "Key ";
 
 constexpr std::array<std::pair<unsigned, std::string_view>, 3> kModifierNames = {{
@@ -177,7 +176,8 @@ std::optional<Hotkey> ParseHotkey(std::string_view text) {
 }
 
 std::optional<Hotkey> LoadHotkey(const SettingsStore& settings) {
-    const std::string text = settings.Get(kSection, kKey, kDefaultHotkeyText);
+    const std::string text =
+        settings.Get(MainSettings::kSection, MainSettings::kHotkey, kDefaultHotkeyText);
     if (TrimBlanks(text, " ").empty()) {
         return std::nullopt;
     }
@@ -188,7 +188,8 @@ std::optional<Hotkey> LoadHotkey(const SettingsStore& settings) {
 }
 
 void SaveHotkey(SettingsStore& settings, const std::optional<Hotkey>& hotkey) {
-    settings.Save(kSection, kKey, hotkey ? FormatHotkey(*hotkey) : "");
+    settings.Save(MainSettings::kSection, MainSettings::kHotkey,
+                  hotkey ? FormatHotkey(*hotkey) : "");
 }
 
 }  // namespace quorin

@@ -8,13 +8,14 @@
 
 #include "platform/LenientConversions.h"
 #include "ui/Dpi.h"
+#include "ui/main/MainSettings.h"
 
 namespace quorin {
 
 namespace {
 
 int ReadNumber(const SettingsStore& settings, std::string_view key, int fallback) {
-    return ParseRoundedNumber(settings.Get("Main", key, std::to_string(fallback)))
+    return ParseRoundedNumber(settings.Get(MainSettings::kSection, key, std::to_string(fallback)))
         .value_or(fallback);
 }
 
@@ -68,18 +69,18 @@ void RememberedPlace::Load(const SettingsStore& settings, HWND window, int dpi) 
     GetWindowRect(window, &frame);
     const int screenWidth = PixelsToTwips(GetSystemMetrics(SM_CXSCREEN), dpi);
     const int screenHeight = PixelsToTwips(GetSystemMetrics(SM_CYSCREEN), dpi);
-    twips_.x = ReadNumber(settings, "StartX",
+    twips_.x = ReadNumber(settings, MainSettings::kStartX,
                           (screenWidth - PixelsToTwips(frame.right - frame.left, dpi)) / 2);
-    twips_.y = ReadNumber(settings, "StartY",
+    twips_.y = ReadNumber(settings, MainSettings::kStartY,
                           (screenHeight - PixelsToTwips(frame.bottom - frame.top, dpi)) / 2);
-    dpi_ = ReadNumber(settings, "StartDpi", dpi);
+    dpi_ = ReadNumber(settings, MainSettings::kStartDpi, dpi);
 }
 
 void RememberedPlace::Save(SettingsStore& settings) const {
-    settings.Save("Main", "StartX", std::to_string(twips_.x));
-    settings.Save("Main", "StartY", std::to_string(twips_.y));
+    settings.Save(MainSettings::kSection, MainSettings::kStartX, std::to_string(twips_.x));
+    settings.Save(MainSettings::kSection, MainSettings::kStartY, std::to_string(twips_.y));
     if (dpi_ != 0) {
-        settings.Save("Main", "StartDpi", std::to_string(dpi_));
+        settings.Save(MainSettings::kSection, MainSettings::kStartDpi, std::to_string(dpi_));
     }
 }
 

@@ -27,6 +27,11 @@ namespace quorin {
 namespace {
 
 constexpr std::string_view kSection = "Matches";
+// The window's place and size in twips, each key spelled once for saving and reading.
+constexpr std::string_view kLeft = "Left";
+constexpr std::string_view kTop = "Top";
+constexpr std::string_view kWidth = "Width";
+constexpr std::string_view kHeight = "Height";
 constexpr int kSmallIconPixels = 16;  // at 96 DPI
 constexpr int kCheckBoxPixels = 20;   // a check box's box and gap before its caption, at 96 DPI
 constexpr int kNameColumnTwips = 2700;
@@ -218,10 +223,10 @@ void frmMatches::Form_Unload() {
     const auto save = [this](std::string_view key, int pixels) {
         host_->settings.Save(kSection, key, std::to_string(PixelsToTwips(pixels, dpi_)));
     };
-    save("Left", frame.left);
-    save("Top", frame.top);
-    save("Width", frame.right - frame.left);
-    save("Height", frame.bottom - frame.top);
+    save(kLeft, frame.left);
+    save(kTop, frame.top);
+    save(kWidth, frame.right - frame.left);
+    save(kHeight, frame.bottom - frame.top);
 }
 
 void frmMatches::cmdOpen_Click() {
@@ -379,13 +384,13 @@ void frmMatches::RestorePlace() {
         // Read as the main window reads its place; anything but a number counts as never saved.
         return ParseRoundedNumber(host_->settings.Get(kSection, key, "0")).value_or(0);
     };
-    const int width = read("Width");
+    const int width = read(kWidth);
     RECT place{};
     if (width >= 1) {
-        const int left = TwipsToPixels(read("Left"), dpi_);
-        const int top = TwipsToPixels(read("Top"), dpi_);
+        const int left = TwipsToPixels(read(kLeft), dpi_);
+        const int top = TwipsToPixels(read(kTop), dpi_);
         const RECT saved{left, top, left + TwipsToPixels(width, dpi_),
-                         top + TwipsToPixels(read("Height"), dpi_)};
+                         top + TwipsToPixels(read(kHeight), dpi_)};
         place = KeptInside(saved, WorkAreaNear(saved));
     } else {
         RECT frame{};
