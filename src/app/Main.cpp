@@ -3,7 +3,6 @@
 #include <optional>
 
 #include "QuorinVersion.h"
-#include "app/modGlobals.h"
 #include "platform/Errors.h"
 #include "ui/Hourglass.h"
 #include "ui/dialogs/frmWelcome.h"
@@ -93,12 +92,11 @@ bool Startup::Configured() {
     return true;
 }
 
-// The wizard clears the wizard-active flag only when its Finish has built the first index.
+// Only the wizard's Finish, once it has built the first index, ends it with OK.
 bool Startup::RunFirstStartWizard() {
     frmWelcome wizard(
         {services_.index.Get(), services_.prompter, services_.options, services_.help});
-    wizard.ShowModal(nullptr);
-    if (WizardActive()) {
+    if (wizard.ShowModal(nullptr) != IDOK) {
         return false;
     }
     services_.settings.Save(MainSettings::kSection, MainSettings::kConfigured, "1");

@@ -22,6 +22,8 @@ class Dialog : public Window {
     // Creates the dialog over `owner` and shows it; the call returns at once.
     void ShowModeless(HWND owner);
     bool IsModal() const { return modal_; }
+    // The result given to EndDialog; IDCANCEL until then, and for a dialog closed any other way.
+    INT_PTR Result() const { return result_; }
 
     // Keys a dialog handles before the dialog manager; see Window::TranslateKeys.
     static bool TranslateKeys(HWND active, const MSG& message);

@@ -5,7 +5,6 @@
 #include <array>
 
 #include "WelcomeDialog.h"
-#include "app/modGlobals.h"
 #include "index/clsIndex.h"
 #include "platform/Prompter.h"
 #include "platform/Text.h"
@@ -78,7 +77,6 @@ bool frmWelcome::OnInit() {
 
 void frmWelcome::Form_Load() {
     const Hourglass busy;
-    WizardActive() = true;
     services_.help.Setup(hwnd());
     lnkNext = ctlLinkLabel::From(Item(IDC_WELCOME_NEXT));
     lnkFinish = ctlLinkLabel::From(Item(IDC_WELCOME_FINISH));
@@ -298,7 +296,6 @@ void frmWelcome::lnkFinish_Click() {
         LeaveProgressPage();  // the error is shown; the user may try again or cancel
         throw;
     }
-    WizardActive() = false;
     EndDialog(IDOK);
 }
 

@@ -9,7 +9,6 @@
 
 #include "DialogTestHelpers.h"
 #include "WelcomeDialog.h"
-#include "app/modGlobals.h"
 #include "platform/Path.h"
 #include "platform/Text.h"
 #include "platform/registry/ScratchClasses.h"
@@ -115,7 +114,6 @@ TEST_F(WelcomeTest, AReaderCanNameTheListOfFileTypes) {
 TEST_F(WelcomeTest, PagesGoInOrderWithTheirLinksShownAsThePageAllows) {
     Open();
     EXPECT_EQ(WindowText(wizard.hwnd()), "Welcome to Quorin");
-    EXPECT_TRUE(WizardActive());
     EXPECT_EQ(WindowText(Field(IDC_WELCOME_WELCOME)),
               "Welcome to Quorin. Quorin will index your hard drive and let you find any file, "
               "launch any program, or open any document... with just a word. \r\n\r\nThis "
@@ -216,7 +214,7 @@ TEST_F(WelcomeTest, CancelAsksAndNoStaysOnThePageWhileYesEndsTheWizardStillPendi
 
     Click(IDC_WELCOME_CANCEL);
     EXPECT_FALSE(IsWindow(wizard.hwnd()));
-    EXPECT_TRUE(WizardActive());
+    EXPECT_EQ(wizard.Result(), IDCANCEL);
     EXPECT_EQ(help.closes, 1) << "help goes with the wizard";
     EXPECT_FALSE(std::filesystem::exists(JoinPath(program.Path(), "index.txt")));
 }
@@ -244,7 +242,7 @@ TEST_F(WelcomeTest, FinishBuildsOnTheProgressPageThenCloses) {
     EXPECT_TRUE(tabsDisabled);
     EXPECT_FALSE(closedDuringBuild);
     EXPECT_FALSE(IsWindow(wizard.hwnd()));
-    EXPECT_FALSE(WizardActive());
+    EXPECT_EQ(wizard.Result(), IDOK);
     EXPECT_NE(index.Get().LastUpdated, 0);
     const std::optional<MatchList> found = index.Get().FindMatch("plan");
     ASSERT_TRUE(found.has_value());

@@ -1,8 +1,0 @@
-#pragma once
-
-namespace quorin {
-
-// True while the first-run wizard is open; the wizard sets and clears it.
-bool& WizardActive();
-
-}  // namespace quorin
