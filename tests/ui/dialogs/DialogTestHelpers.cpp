@@ -4,11 +4,21 @@
 
 namespace quorin::test {
 
-void PressKey(WPARAM key) {
+void PressKey(WPARAM key, std::initializer_list<BYTE> held) {
+    BYTE keys[256] = {};
+    GetKeyboardState(keys);
+    for (BYTE down : held) {
+        keys[down] = 0x80;
+    }
+    SetKeyboardState(keys);
     const HWND focus = GetFocus();
     PostMessageW(focus, WM_KEYDOWN, key, 0);
     PostMessageW(focus, WM_KEYUP, key, 0);
     MessagePump().DoEvents();
+    for (BYTE down : held) {
+        keys[down] = 0;
+    }
+    SetKeyboardState(keys);
 }
 
 namespace {

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,8 +25,9 @@ class FakeFileChooser final : public FileChooser {
     std::vector<std::string> starts;
 };
 
-// A key pressed in the focused control, as the message pump delivers it.
-void PressKey(WPARAM key);
+// A key pressed in the focused control, as the message pump delivers it, with `held` keys
+// (VK_CONTROL, VK_SHIFT) down meanwhile.
+void PressKey(WPARAM key, std::initializer_list<BYTE> held = {});
 // Runs `action` once the thread's message loop is running (a modal dialog's, say).
 void WhenLoopRuns(std::function<void()> action);
 

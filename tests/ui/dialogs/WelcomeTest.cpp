@@ -102,19 +102,20 @@ class WelcomeTest : public ProgramFixture {
         }
         return rows;
     }
+    std::vector<Row> SortedRows() const {
+        std::vector<Row> rows = Rows();
+        std::ranges::sort(rows, {}, &Row::type);
+        return rows;
+    }
 
     ScratchClasses classes;
     frmWelcome wizard{WelcomeServices{index.Get(), prompter, options, help}};
 };
 
-TEST_F(WelcomeTest, AReaderCanNameTheListOfFileTypes) {
-    Open();
-    EXPECT_EQ(UnnamedControls(wizard.hwnd()), std::vector<std::string>{});
-}
-
 TEST_F(WelcomeTest, PagesGoInOrderWithTheirLinksShownAsThePageAllows) {
     Open();
     EXPECT_EQ(WindowText(wizard.hwnd()), "Welcome to Quorin");
+    EXPECT_EQ(UnnamedControls(wizard.hwnd()), std::vector<std::string>{});
     EXPECT_TRUE(WizardActive());
     EXPECT_EQ(WindowText(Field(IDC_WELCOME_WELCOME)),
               "Welcome to Quorin. Quorin will index your hard drive and let you find any file, "
@@ -176,18 +177,10 @@ TEST_F(WelcomeTest, EnterGoesOnEscapeCancelsAndTheFocusedLinkTakesEnterAndSpace)
     ASSERT_EQ(prompter.boxes.size(), 1u);
     EXPECT_EQ(prompter.boxes[0].title, "Confirm cancel");
 
-    BYTE keys[256] = {};
-    GetKeyboardState(keys);
-    keys[VK_CONTROL] = 0x80;
-    SetKeyboardState(keys);
-    PressKey(VK_TAB);
+    PressKey(VK_TAB, {VK_CONTROL});
     EXPECT_EQ(PageShown(), 0) << "Ctrl+Tab goes round";
-    keys[VK_SHIFT] = 0x80;
-    SetKeyboardState(keys);
-    PressKey(VK_TAB);
+    PressKey(VK_TAB, {VK_CONTROL, VK_SHIFT});
     EXPECT_EQ(PageShown(), 3) << "and back with Shift";
-    keys[VK_CONTROL] = keys[VK_SHIFT] = 0;
-    SetKeyboardState(keys);
 
     ClickTab(0);
     PressKey(VK_TAB);
@@ -252,16 +245,11 @@ TEST_F(WelcomeTest, FinishBuildsOnTheProgressPageThenCloses) {
     EXPECT_TRUE(prompter.boxes.empty());
 }
 
-TEST_F(WelcomeTest, ListsTheFilterTypesWithTheirDescriptionsAndNoIconWhereThereIsNone) {
+TEST_F(WelcomeTest, ListsTheFilterTypesAndOptionsRefillItAndDrivesOpenGeneral) {
     Open();
-    std::vector<Row> rows = Rows();
-    std::sort(rows.begin(), rows.end(), [](const Row& a, const Row& b) { return a.type < b.type; });
-    EXPECT_EQ(rows,
-              (std::vector<Row>{{".wzb", "A bare type", false}, {".wzt", "Wizard text", true}}));
-}
-
-TEST_F(WelcomeTest, ChangingFileTypesInOptionsRefillsTheListAndDrivesOpenGeneral) {
-    Open();
+    EXPECT_EQ(SortedRows(),
+              (std::vector<Row>{{".wzb", "A bare type", false}, {".wzt", "Wizard text", true}}))
+        << "descriptions, and no icon where there is none";
     options.onModal = [&] {
         settings.Save("Index", "Filter", ".WZQ .WZB ");
         index.Get().UpdateSettings();
@@ -269,10 +257,8 @@ TEST_F(WelcomeTest, ChangingFileTypesInOptionsRefillsTheListAndDrivesOpenGeneral
     Click(IDC_WELCOME_CHANGE_FILETYPES);
     EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes}));
     EXPECT_EQ(options.modalOwners, (std::vector<HWND>{wizard.hwnd()}));
-    std::vector<Row> rows = Rows();
-    std::sort(rows.begin(), rows.end(), [](const Row& a, const Row& b) { return a.type < b.type; });
-    EXPECT_EQ(rows, (std::vector<Row>{{".wzb", "A bare type", false},
-                                      {".wzq", "Not in the filter", true}}));
+    EXPECT_EQ(SortedRows(), (std::vector<Row>{{".wzb", "A bare type", false},
+                                              {".wzq", "Not in the filter", true}}));
 
     options.onModal = nullptr;
     EXPECT_EQ(WindowText(Field(IDC_WELCOME_DRIVES)), "click here.");
