@@ -7,7 +7,6 @@
 #include "app/Main.h"
 #include "app/MainInstance.h"
 #include "platform/Path.h"
-#include "ui/controls/LabelWindow.h"
 #include "ui/dialogs/DialogTestHelpers.h"
 #include "ui/dialogs/frmWelcome.h"
 #include "ui/main/MainFakes.h"
@@ -146,10 +145,6 @@ class FirstStartTest : public StartupTest {
             }
         });
     }
-    static void Click(HWND wizard, int id) {
-        SendMessageW(wizard, WM_COMMAND, MAKEWPARAM(id, kLabelClick),
-                     reinterpret_cast<LPARAM>(GetDlgItem(wizard, id)));
-    }
     std::string Configured() const { return settings.Get("Main", "Configured", ""); }
 
     bool wizardShown = false;
@@ -160,9 +155,9 @@ TEST_F(FirstStartTest, TheWizardsFinishBuildsTheIndexAndTheProgramRunsFromTheTra
     tree.WriteFile("sub/file.txt", "x");
     InWizard([](HWND wizard) {
         for (int page = 1; page < kWelcomePageCount; ++page) {
-            Click(wizard, IDC_WELCOME_NEXT);
+            ClickItem(wizard, IDC_WELCOME_NEXT);
         }
-        Click(wizard, IDC_WELCOME_FINISH);
+        ClickItem(wizard, IDC_WELCOME_FINISH);
     });
     EXPECT_TRUE(RunMain({}, true));
     EXPECT_TRUE(wizardShown);
@@ -178,7 +173,7 @@ TEST_F(FirstStartTest, TheWizardsFinishBuildsTheIndexAndTheProgramRunsFromTheTra
 
 TEST_F(FirstStartTest, ACancelledOrClosedWizardEndsTheProgramAndComesBackNextTime) {
     prompter.answers = {PromptAnswer::Yes};
-    InWizard([](HWND wizard) { Click(wizard, IDC_WELCOME_CANCEL); });
+    InWizard([](HWND wizard) { ClickItem(wizard, IDC_WELCOME_CANCEL); });
     EXPECT_FALSE(RunMain());
     EXPECT_TRUE(wizardShown);
     EXPECT_EQ(startup->MainForm(), nullptr);

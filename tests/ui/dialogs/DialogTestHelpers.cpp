@@ -21,6 +21,16 @@ void PressKey(WPARAM key, std::initializer_list<BYTE> held) {
     SetKeyboardState(keys);
 }
 
+void ClickItem(HWND dialog, int id) {
+    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(GetDlgItem(dialog, id)));
+}
+
+void PressAndRelease(HWND control) {
+    SendMessageW(control, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    SendMessageW(control, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+}
+
 namespace {
 
 std::function<void()>& Pending() {

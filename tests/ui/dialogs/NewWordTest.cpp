@@ -21,10 +21,7 @@ class NewWordTest : public ProgramFixture {
     void Open() { dialog.ShowModeless(nullptr); }
     HWND Field(int id) const { return GetDlgItem(dialog.hwnd(), id); }
     void Type(int id, std::string_view text) const { SetText(Field(id), text); }
-    void Click(int id) const {
-        SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
-                     reinterpret_cast<LPARAM>(Field(id)));
-    }
+    void Click(int id) const { ClickItem(dialog.hwnd(), id); }
     std::vector<std::string> Boxes() const {
         std::vector<std::string> texts;
         for (const ScriptedPrompter::Box& box : prompter.boxes) {

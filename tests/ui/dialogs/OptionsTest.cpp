@@ -89,11 +89,7 @@ class OptionsTest : public ProgramFixture {
         }
         return nullptr;
     }
-    void Click(int id) const {
-        const HWND control = Control(id);
-        SendMessageW(GetParent(control), WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
-                     reinterpret_cast<LPARAM>(control));
-    }
+    void Click(int id) const { ClickItem(GetParent(Control(id)), id); }
     // A user's click in a multi-select list: the item toggles and the list tells its parent.
     void ToggleInList(int id, int item) const {
         const HWND list = Control(id);
@@ -198,14 +194,12 @@ TEST_F(OptionsTest, GeneralPageOffersFixedAndNetworkDrivesAndSelectsTheConfigure
     EXPECT_EQ(WindowText(Control(IDC_OPTIONS_INTERVAL)), "24");
     EXPECT_EQ(IsDlgButtonChecked(GetParent(drives), IDC_OPTIONS_SYSTEM), BST_CHECKED);
 
+    // IntervalTextTest has the cases; leaving the field corrects it.
     const HWND interval = Control(IDC_OPTIONS_INTERVAL);
-    for (const auto& [typed, shown] : std::vector<std::pair<std::string, std::string>>{
-             {"3 hours", "3"}, {"2.50", "2.5"}, {"0", "1"}, {"abc", "1"}, {"-3", "-3"}}) {
-        SetFocus(interval);
-        SetText(interval, typed);
-        SetFocus(drives);
-        EXPECT_EQ(WindowText(interval), shown) << typed;
-    }
+    SetFocus(interval);
+    SetText(interval, "2.50 hours");
+    SetFocus(drives);
+    EXPECT_EQ(WindowText(interval), "2.5");
 }
 
 TEST_F(OptionsTest, OkStoresTheIndexSettingsInTheirFormsAndTellsTheEngine) {

@@ -15,7 +15,6 @@
 #include "platform/registry/ScratchClasses.h"
 #include "support/ReaderNames.h"
 #include "ui/WindowText.h"
-#include "ui/controls/ctlLinkLabel.h"
 #include "ui/controls/ctlTabLabel.h"
 #include "ui/dialogs/frmWelcome.h"
 #include "ui/main/MainFakes.h"
@@ -53,16 +52,8 @@ class WelcomeTest : public ProgramFixture {
     HWND Field(int id) const { return GetDlgItem(wizard.hwnd(), id); }
     bool Shown(int id) const { return IsWindowVisible(Field(id)) != FALSE; }
     bool Enabled(int id) const { return IsWindowEnabled(Field(id)) != FALSE; }
-    void Click(int id) const {
-        SendMessageW(wizard.hwnd(), WM_COMMAND, MAKEWPARAM(id, kLabelClick),
-                     reinterpret_cast<LPARAM>(Field(id)));
-    }
-    // The way a user selects a tab: press and release on it.
-    void ClickTab(int tab) const {
-        const HWND label = Field(IDC_WELCOME_TAB0 + tab);
-        SendMessageW(label, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
-        SendMessageW(label, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
-    }
+    void Click(int id) const { ClickItem(wizard.hwnd(), id); }
+    void ClickTab(int tab) const { PressAndRelease(Field(IDC_WELCOME_TAB0 + tab)); }
     void ClickColumn(int column) const {
         NMLISTVIEW click{};
         click.hdr = {Field(IDC_WELCOME_FILETYPES), IDC_WELCOME_FILETYPES, LVN_COLUMNCLICK};
