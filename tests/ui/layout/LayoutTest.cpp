@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <iostream>
 #include <string>
 #include <vector>
 
@@ -64,16 +63,9 @@ std::vector<std::string> ControlsOutside(HWND window) {
     return walk.outside;
 }
 
-// Checks the window as it shows now and prints its sizes for the record.
 void ExpectInside(HWND window, const std::string& what) {
-    RECT client{};
-    GetClientRect(window, &client);
-    RECT frame{};
-    GetWindowRect(window, &frame);
-    std::cout << what << ": client " << client.right << " x " << client.bottom << ", outer "
-              << frame.right - frame.left << " x " << frame.bottom - frame.top << " at "
-              << WindowDpi(window) << " dpi\n";
-    EXPECT_EQ(ControlsOutside(window), std::vector<std::string>{}) << what;
+    EXPECT_EQ(ControlsOutside(window), std::vector<std::string>{})
+        << what << " at " << WindowDpi(window) << " dpi";
 }
 
 class MainLayoutTest : public MainWindowTest {};
