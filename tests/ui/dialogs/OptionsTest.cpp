@@ -274,10 +274,10 @@ TEST_F(OptionsTest, FileTypesFollowTheSavedModeAndAModeChangeKeepsTheTypesIndexe
     EXPECT_EQ(Setting("FilterIsInclude"), "False");
 }
 
-TEST_F(OptionsTest, AnEmptyFilterIsQuestioned) {
+TEST_F(OptionsTest, AnEmptyFilterIsQuestionedAndYesKeepsTheSavedOneWhereNoStoresIt) {
     Open(1);
     ToggleInList(IDC_OPTIONS_INCLUDE, 0);
-    prompter.answers = {PromptAnswer::Cancel, PromptAnswer::Yes};
+    prompter.answers = {PromptAnswer::Cancel, PromptAnswer::Yes, PromptAnswer::No};
     Click(IDOK);
     ASSERT_EQ(prompter.boxes.size(), 1u);
     EXPECT_EQ(prompter.boxes[0].title, "No filter specified");
@@ -286,12 +286,9 @@ TEST_F(OptionsTest, AnEmptyFilterIsQuestioned) {
     EXPECT_EQ(Setting("Interval"), "-");
     Click(IDOK);
     EXPECT_EQ(Setting("Filter"), ".DOC ") << "Yes keeps the saved filter";
-}
 
-TEST_F(OptionsTest, NoToTheEmptyFilterQuestionStoresAnEmptyFilter) {
     Open(1);
     ToggleInList(IDC_OPTIONS_INCLUDE, 0);
-    prompter.answers = {PromptAnswer::No};
     Click(IDOK);
     EXPECT_FALSE(IsWindow(dialog.hwnd()));
     EXPECT_EQ(Setting("Filter"), "");
@@ -366,7 +363,19 @@ TEST_F(OptionsTest, GeneralPageTellsAHeldHotkeyAndOkTakesItAndTheSignInStartAtOn
     EXPECT_TRUE(signIn.IsOn());
 }
 
-TEST_F(OptionsTest, TurningTheHotkeyAndTheSignInStartOffStoresNoneAndRemovesTheRunValue) {
+TEST_F(OptionsTest, CancelStoresNeitherWhileTurningTheHotkeyAndSignInStartOffStoresNone) {
+    Open(0);
+    EXPECT_FALSE(Ticked(IDC_OPTIONS_USEHOTKEY)) << "the fixture turns the hotkey off";
+    EXPECT_EQ(SendMessageW(Control(IDC_OPTIONS_HOTKEY), HKM_GETHOTKEY, 0, 0),
+              MAKEWORD(VK_SPACE, HOTKEYF_ALT))
+        << "the default offered";
+    Tick(IDC_OPTIONS_USEHOTKEY);
+    Tick(IDC_OPTIONS_SIGNIN);
+    Click(IDCANCEL);
+    EXPECT_EQ(settings.Get("Main", "Hotkey", "-"), "");
+    EXPECT_TRUE(hotkeys.applied.empty());
+    EXPECT_FALSE(signIn.IsOn());
+
     settings.Save("Main", "Hotkey", "Alt+Space");
     signIn.TurnOn();
     Open(0);
@@ -381,20 +390,6 @@ TEST_F(OptionsTest, TurningTheHotkeyAndTheSignInStartOffStoresNoneAndRemovesTheR
     Click(IDOK);
     EXPECT_EQ(settings.Get("Main", "Hotkey", "-"), "");
     EXPECT_EQ(hotkeys.applied, (std::vector<std::optional<Hotkey>>{std::nullopt}));
-    EXPECT_FALSE(signIn.IsOn());
-}
-
-TEST_F(OptionsTest, CancelStoresNeitherTheHotkeyNorTheSignInStart) {
-    Open(0);
-    EXPECT_FALSE(Ticked(IDC_OPTIONS_USEHOTKEY)) << "the fixture turns the hotkey off";
-    EXPECT_EQ(SendMessageW(Control(IDC_OPTIONS_HOTKEY), HKM_GETHOTKEY, 0, 0),
-              MAKEWORD(VK_SPACE, HOTKEYF_ALT))
-        << "the default offered";
-    Tick(IDC_OPTIONS_USEHOTKEY);
-    Tick(IDC_OPTIONS_SIGNIN);
-    Click(IDCANCEL);
-    EXPECT_EQ(settings.Get("Main", "Hotkey", "-"), "");
-    EXPECT_TRUE(hotkeys.applied.empty());
     EXPECT_FALSE(signIn.IsOn());
 }
 
