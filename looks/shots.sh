@@ -23,6 +23,7 @@ trap stop EXIT
 prefix() {
     export WINEPREFIX=$work/prefix-$1${QUORIN_HIGH_CONTRAST:+-contrast}
     bash "$here/tests/support/set_metrics.sh" "$WINEPREFIX" "$1"
+    if [ "${QUORIN_HIGH_CONTRAST:-}" = 1 ]; then bash "$here/looks/high_contrast.sh" "$WINEPREFIX"; fi
 }
 
 # PROGRAM SHOT...: each SHOT is ARGUMENT=TITLE=NAME; the program is started with ARGUMENT, the

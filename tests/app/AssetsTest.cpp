@@ -17,7 +17,7 @@ namespace {
 // What Windows asks for from 100 % to 200 %: tray, title bar, taskbar, Start menu, Explorer.
 const std::vector<int> kCarriedSizes = {16, 20, 24, 32, 40, 48, 64, 96, 128, 256};
 
-TEST(Resources, IconsCarryEverySizeWindowsAsksFor) {
+TEST(Resources, IconsCarryAndLoadEverySizeWindowsAsksFor) {
     for (int id : {IDI_QUORIN, IDI_INDEXING}) {
         const HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(id), RT_GROUP_ICON);
         ASSERT_NE(found, nullptr);
@@ -29,11 +29,6 @@ TEST(Resources, IconsCarryEverySizeWindowsAsksFor) {
             sizes.push_back(width == 0 ? 256 : width);
         }
         EXPECT_EQ(sizes, kCarriedSizes);
-    }
-}
-
-TEST(Resources, IconsLoadAtEverySizeTheyCarry) {
-    for (int id : {IDI_QUORIN, IDI_INDEXING}) {
         for (int size : kCarriedSizes) {
             SCOPED_TRACE(testing::Message() << "icon " << id << " at " << size);
             const UniqueIcon icon(static_cast<HICON>(LoadImageW(

@@ -7,7 +7,6 @@
 #include "app/Main.h"
 #include "app/MainInstance.h"
 #include "platform/Path.h"
-#include "ui/controls/LabelWindow.h"
 #include "ui/dialogs/DialogTestHelpers.h"
 #include "ui/dialogs/frmWelcome.h"
 #include "ui/main/MainFakes.h"
@@ -48,9 +47,16 @@ class StartupTest : public ProgramFixture {
     bool splashWhenLoaded = false;
 };
 
-TEST_F(StartupTest, RecordsWhereAndWhichVersionTheProgramIs) {
+TEST_F(StartupTest, AnsweringNoToTheMissingIndexEndsTheProgramAfterRecordingTheProgram) {
     prompter.answers = {PromptAnswer::No};
-    RunMain();
+    EXPECT_FALSE(RunMain());
+    ASSERT_EQ(prompter.boxes.size(), 1u);
+    EXPECT_EQ(prompter.boxes[0].title, "Missing index");
+    EXPECT_EQ(prompter.boxes[0].text, kMissingIndexText);
+    EXPECT_EQ(prompter.boxes[0].buttons, PromptButtons::YesNo);
+    EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Question);
+    EXPECT_EQ(unloads, 1);
+    EXPECT_FALSE(IndexFileExists());
     EXPECT_EQ(settings.Get("Main", "Path", ""), program.Path() + "\\");
     EXPECT_EQ(settings.Get("Main", "VersionMajor", ""), std::to_string(QUORIN_VERSION_MAJOR));
     EXPECT_EQ(settings.Get("Main", "VersionMinor", ""), std::to_string(QUORIN_VERSION_MINOR));
@@ -61,41 +67,22 @@ TEST_F(StartupTest, RecordsWhereAndWhichVersionTheProgramIs) {
     EXPECT_EQ(settings.Get("Main", "Path", ""), "C:\\\\") << "a drive root doubles the separator";
 }
 
-TEST_F(StartupTest, AnsweringNoToTheMissingIndexEndsTheProgram) {
-    prompter.answers = {PromptAnswer::No};
-    EXPECT_FALSE(RunMain());
-    ASSERT_EQ(prompter.boxes.size(), 1u);
-    EXPECT_EQ(prompter.boxes[0].title, "Missing index");
-    EXPECT_EQ(prompter.boxes[0].text, kMissingIndexText);
-    EXPECT_EQ(prompter.boxes[0].buttons, PromptButtons::YesNo);
-    EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Question);
-    EXPECT_EQ(unloads, 1);
-    EXPECT_FALSE(IndexFileExists());
-}
-
-TEST_F(StartupTest, AnsweringYesShowsTheWindowAndBuildsTheIndex) {
+// The start-up build yields to the user's clicks: Go, an assignment in the Matches window and a
+// message box must find the main window shown and its services connected by then.
+TEST_F(StartupTest, AnsweringYesBuildsTheIndexBehindTheConnectedShownWindow) {
     tree.WriteFile("sub/file.txt", "x");
     prompter.answers = {PromptAnswer::Yes};
-    bool shownDuringBuild = false;
-    events.onEvents = [&] { shownDuringBuild = IsWindowVisible(startup->MainForm()->hwnd()); };
+    std::vector<bool> readyDuringBuild;
+    events.onEvents = [&] {
+        readyDuringBuild.push_back(connected != nullptr && connected == startup->MainForm() &&
+                                   IsWindowVisible(startup->MainForm()->hwnd()));
+    };
     EXPECT_TRUE(RunMain());
-    EXPECT_TRUE(shownDuringBuild);
+    ASSERT_FALSE(readyDuringBuild.empty());
+    EXPECT_EQ(readyDuringBuild, std::vector<bool>(readyDuringBuild.size(), true));
     EXPECT_TRUE(IndexFileExists());
     EXPECT_EQ(unloads, 0);
     EXPECT_EQ(index.Get().LastUpdated, clock.now);
-}
-
-// The start-up build yields to the user's clicks: Go, an assignment in the Matches window and a
-// message box must find the main window's services connected by then.
-TEST_F(StartupTest, TheMainWindowIsConnectedBeforeTheFirstBuildLetsTheUserIn) {
-    prompter.answers = {PromptAnswer::Yes};
-    std::vector<bool> connectedDuringBuild;
-    events.onEvents = [&] {
-        connectedDuringBuild.push_back(connected != nullptr && connected == startup->MainForm());
-    };
-    EXPECT_TRUE(RunMain());
-    ASSERT_FALSE(connectedDuringBuild.empty());
-    EXPECT_EQ(connectedDuringBuild, std::vector<bool>(connectedDuringBuild.size(), true));
 }
 
 TEST_F(StartupTest, TheSessionEndingDuringTheFirstBuildEndsTheProgramAfterIt) {
@@ -158,10 +145,6 @@ class FirstStartTest : public StartupTest {
             }
         });
     }
-    static void Click(HWND wizard, int id) {
-        SendMessageW(wizard, WM_COMMAND, MAKEWPARAM(id, kLabelClick),
-                     reinterpret_cast<LPARAM>(GetDlgItem(wizard, id)));
-    }
     std::string Configured() const { return settings.Get("Main", "Configured", ""); }
 
     bool wizardShown = false;
@@ -172,9 +155,9 @@ TEST_F(FirstStartTest, TheWizardsFinishBuildsTheIndexAndTheProgramRunsFromTheTra
     tree.WriteFile("sub/file.txt", "x");
     InWizard([](HWND wizard) {
         for (int page = 1; page < kWelcomePageCount; ++page) {
-            Click(wizard, IDC_WELCOME_NEXT);
+            ClickItem(wizard, IDC_WELCOME_NEXT);
         }
-        Click(wizard, IDC_WELCOME_FINISH);
+        ClickItem(wizard, IDC_WELCOME_FINISH);
     });
     EXPECT_TRUE(RunMain({}, true));
     EXPECT_TRUE(wizardShown);
@@ -190,7 +173,7 @@ TEST_F(FirstStartTest, TheWizardsFinishBuildsTheIndexAndTheProgramRunsFromTheTra
 
 TEST_F(FirstStartTest, ACancelledOrClosedWizardEndsTheProgramAndComesBackNextTime) {
     prompter.answers = {PromptAnswer::Yes};
-    InWizard([](HWND wizard) { Click(wizard, IDC_WELCOME_CANCEL); });
+    InWizard([](HWND wizard) { ClickItem(wizard, IDC_WELCOME_CANCEL); });
     EXPECT_FALSE(RunMain());
     EXPECT_TRUE(wizardShown);
     EXPECT_EQ(startup->MainForm(), nullptr);

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,8 +25,13 @@ class FakeFileChooser final : public FileChooser {
     std::vector<std::string> starts;
 };
 
-// A key pressed in the focused control, as the message pump delivers it.
-void PressKey(WPARAM key);
+// A key pressed in the focused control, as the message pump delivers it, with `held` keys
+// (VK_CONTROL, VK_SHIFT) down meanwhile.
+void PressKey(WPARAM key, std::initializer_list<BYTE> held = {});
+// A click on the dialog's button or link label `id`, as the control reports it.
+void ClickItem(HWND dialog, int id);
+// A user's press and release of the left button on `control`.
+void PressAndRelease(HWND control);
 // Runs `action` once the thread's message loop is running (a modal dialog's, say).
 void WhenLoopRuns(std::function<void()> action);
 

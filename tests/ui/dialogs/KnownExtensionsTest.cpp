@@ -16,10 +16,6 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-bool StartsWith(const std::string& text, const std::string& prefix) {
-    return text.compare(0, prefix.size(), prefix) == 0;
-}
-
 // The registry's own order: names compared in upper case.
 bool UpperLess(const std::string& a, const std::string& b) {
     return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
@@ -41,7 +37,7 @@ TEST_F(KnownExtensionsTest, ListsTheClassesRootsFileTypesInItsOrder) {
     }
     Names ours;
     for (const std::string& name : KnownExtensions(registry_)) {
-        if (StartsWith(name, ".qk") || StartsWith(name, ".QK")) {
+        if (name.starts_with(".qk") || name.starts_with(".QK")) {
             ours.push_back(name);
         }
     }
@@ -64,7 +60,7 @@ TEST_F(KnownExtensionsTest, AClassesRootBeyondTheBoundStillGivesItsFileTypes) {
     EXPECT_TRUE(std::all_of(known.begin(), known.end(), IsFileTypeName));
     Names ours;
     std::copy_if(known.begin(), known.end(), std::back_inserter(ours),
-                 [](const std::string& name) { return StartsWith(name, ".qk"); });
+                 [](const std::string& name) { return name.starts_with(".qk"); });
     ASSERT_EQ(ours.size(), size_t{kExtensions});
     EXPECT_EQ(ours.front(), ".qk10000");
     EXPECT_EQ(ours.back(), ".qk12999");

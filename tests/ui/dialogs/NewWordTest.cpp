@@ -18,16 +18,10 @@ class NewWordTest : public ProgramFixture {
   protected:
     NewWordTest() { file = tree.WriteFile("docs\\plan.txt", "plan"); }
 
-    frmNewWord& Open() {
-        dialog.ShowModeless(nullptr);
-        return dialog;
-    }
+    void Open() { dialog.ShowModeless(nullptr); }
     HWND Field(int id) const { return GetDlgItem(dialog.hwnd(), id); }
     void Type(int id, std::string_view text) const { SetText(Field(id), text); }
-    void Click(int id) const {
-        SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
-                     reinterpret_cast<LPARAM>(Field(id)));
-    }
+    void Click(int id) const { ClickItem(dialog.hwnd(), id); }
     std::vector<std::string> Boxes() const {
         std::vector<std::string> texts;
         for (const ScriptedPrompter::Box& box : prompter.boxes) {
@@ -41,13 +35,11 @@ class NewWordTest : public ProgramFixture {
     frmNewWord dialog{NewWordServices{index.Get(), prompter, files, nullptr}};
 };
 
-TEST_F(NewWordTest, AReaderCanNameBothFields) {
-    EXPECT_EQ(UnnamedControls(Open().hwnd()), std::vector<std::string>{});
-}
-
-TEST_F(NewWordTest, RefusesAnEmptyWordBeforeABadFileAndKeepsTheFocusInTheField) {
+TEST_F(NewWordTest, RefusesAnEmptyWordABadFileAndAnAssignedWordAndKeepsTheFocusInTheField) {
+    index.Get().AddWord({"notes", "old.txt", 0, "NOTES"});
     Open();
     EXPECT_EQ(WindowText(dialog.hwnd()), "Add New Word");
+    EXPECT_EQ(UnnamedControls(dialog.hwnd()), std::vector<std::string>{});
     Type(IDC_NEWWORD_WORD, "   ");
     Type(IDC_NEWWORD_FILENAME, JoinPath(tree.Path(), "missing.txt"));
     Click(IDOK);
@@ -61,8 +53,16 @@ TEST_F(NewWordTest, RefusesAnEmptyWordBeforeABadFileAndKeepsTheFocusInTheField) 
         << "a folder is not a file";
     EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Information);
     EXPECT_EQ(GetFocus(), Field(IDC_NEWWORD_FILENAME));
+
+    Type(IDC_NEWWORD_WORD, "NOTES");
+    Type(IDC_NEWWORD_FILENAME, file);
+    Click(IDOK);
+    ASSERT_EQ(prompter.boxes.size(), 4u);
+    EXPECT_NE(prompter.boxes[3].text.find("'NOTES'"), std::string::npos) << prompter.boxes[3].text;
+    EXPECT_EQ(GetFocus(), Field(IDC_NEWWORD_WORD));
     EXPECT_TRUE(IsWindow(dialog.hwnd())) << "the dialog stays open";
-    EXPECT_EQ(index.Get().Words().Count(), 0);
+    EXPECT_EQ(index.Get().Words().Count(), 1);
+    EXPECT_EQ(index.Get().Words().Item("notes")->Filename, "old.txt");
 }
 
 TEST_F(NewWordTest, AssignsTheWordAsTypedToTheFileAndCloses) {
@@ -79,18 +79,6 @@ TEST_F(NewWordTest, AssignsTheWordAsTypedToTheFileAndCloses) {
     EXPECT_EQ(item->Filename, "plan.txt");
     EXPECT_EQ(index.Get().GetPath(item->Directory), JoinPath(tree.Path(), "docs"));
     EXPECT_TRUE(FileExists(JoinPath(program.Path(), "words.txt"))) << "saved at once";
-}
-
-TEST_F(NewWordTest, AWordAlreadyAssignedIsNamedAndNothingChanges) {
-    index.Get().AddWord({"plan", "old.txt", 0, "PLAN"});
-    Open();
-    Type(IDC_NEWWORD_WORD, "PLAN");
-    Type(IDC_NEWWORD_FILENAME, file);
-    Click(IDOK);
-    ASSERT_EQ(prompter.boxes.size(), 1u);
-    EXPECT_NE(prompter.boxes[0].text.find("'PLAN'"), std::string::npos) << prompter.boxes[0].text;
-    EXPECT_EQ(index.Get().Words().Item("plan")->Filename, "old.txt");
-    EXPECT_EQ(GetFocus(), Field(IDC_NEWWORD_WORD));
 }
 
 TEST_F(NewWordTest, BrowseKeepsTheLastChoiceAndWildcardsPass) {

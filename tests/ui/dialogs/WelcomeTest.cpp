@@ -14,7 +14,6 @@
 #include "platform/registry/ScratchClasses.h"
 #include "support/ReaderNames.h"
 #include "ui/WindowText.h"
-#include "ui/controls/ctlLinkLabel.h"
 #include "ui/controls/ctlTabLabel.h"
 #include "ui/dialogs/frmWelcome.h"
 #include "ui/main/MainFakes.h"
@@ -52,16 +51,8 @@ class WelcomeTest : public ProgramFixture {
     HWND Field(int id) const { return GetDlgItem(wizard.hwnd(), id); }
     bool Shown(int id) const { return IsWindowVisible(Field(id)) != FALSE; }
     bool Enabled(int id) const { return IsWindowEnabled(Field(id)) != FALSE; }
-    void Click(int id) const {
-        SendMessageW(wizard.hwnd(), WM_COMMAND, MAKEWPARAM(id, kLabelClick),
-                     reinterpret_cast<LPARAM>(Field(id)));
-    }
-    // The way a user selects a tab: press and release on it.
-    void ClickTab(int tab) const {
-        const HWND label = Field(IDC_WELCOME_TAB0 + tab);
-        SendMessageW(label, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
-        SendMessageW(label, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
-    }
+    void Click(int id) const { ClickItem(wizard.hwnd(), id); }
+    void ClickTab(int tab) const { PressAndRelease(Field(IDC_WELCOME_TAB0 + tab)); }
     void ClickColumn(int column) const {
         NMLISTVIEW click{};
         click.hdr = {Field(IDC_WELCOME_FILETYPES), IDC_WELCOME_FILETYPES, LVN_COLUMNCLICK};
@@ -101,19 +92,20 @@ class WelcomeTest : public ProgramFixture {
         }
         return rows;
     }
+    std::vector<Row> SortedRows() const {
+        std::vector<Row> rows = Rows();
+        std::ranges::sort(rows, {}, &Row::type);
+        return rows;
+    }
 
     ScratchClasses classes;
     frmWelcome wizard{WelcomeServices{index.Get(), prompter, options, help}};
 };
 
-TEST_F(WelcomeTest, AReaderCanNameTheListOfFileTypes) {
-    Open();
-    EXPECT_EQ(UnnamedControls(wizard.hwnd()), std::vector<std::string>{});
-}
-
 TEST_F(WelcomeTest, PagesGoInOrderWithTheirLinksShownAsThePageAllows) {
     Open();
     EXPECT_EQ(WindowText(wizard.hwnd()), "Welcome to Quorin");
+    EXPECT_EQ(UnnamedControls(wizard.hwnd()), std::vector<std::string>{});
     EXPECT_EQ(WindowText(Field(IDC_WELCOME_WELCOME)),
               "Welcome to Quorin. Quorin will index your hard drive and let you find any file, "
               "launch any program, or open any document... with just a word. \r\n\r\nThis "
@@ -174,18 +166,10 @@ TEST_F(WelcomeTest, EnterGoesOnEscapeCancelsAndTheFocusedLinkTakesEnterAndSpace)
     ASSERT_EQ(prompter.boxes.size(), 1u);
     EXPECT_EQ(prompter.boxes[0].title, "Confirm cancel");
 
-    BYTE keys[256] = {};
-    GetKeyboardState(keys);
-    keys[VK_CONTROL] = 0x80;
-    SetKeyboardState(keys);
-    PressKey(VK_TAB);
+    PressKey(VK_TAB, {VK_CONTROL});
     EXPECT_EQ(PageShown(), 0) << "Ctrl+Tab goes round";
-    keys[VK_SHIFT] = 0x80;
-    SetKeyboardState(keys);
-    PressKey(VK_TAB);
+    PressKey(VK_TAB, {VK_CONTROL, VK_SHIFT});
     EXPECT_EQ(PageShown(), 3) << "and back with Shift";
-    keys[VK_CONTROL] = keys[VK_SHIFT] = 0;
-    SetKeyboardState(keys);
 
     ClickTab(0);
     PressKey(VK_TAB);
@@ -250,16 +234,16 @@ TEST_F(WelcomeTest, FinishBuildsOnTheProgressPageThenCloses) {
     EXPECT_TRUE(prompter.boxes.empty());
 }
 
-TEST_F(WelcomeTest, ListsTheFilterTypesWithTheirDescriptionsAndNoIconWhereThereIsNone) {
+TEST_F(WelcomeTest, ListsTheFilterTypesAndOptionsRefillItAndDrivesOpenGeneral) {
     Open();
-    std::vector<Row> rows = Rows();
-    std::sort(rows.begin(), rows.end(), [](const Row& a, const Row& b) { return a.type < b.type; });
-    EXPECT_EQ(rows,
-              (std::vector<Row>{{".wzb", "A bare type", false}, {".wzt", "Wizard text", true}}));
-}
-
-TEST_F(WelcomeTest, ChangingFileTypesInOptionsRefillsTheListAndDrivesOpenGeneral) {
-    Open();
+    EXPECT_EQ(SortedRows(),
+              (std::vector<Row>{{".wzb", "A bare type", false}, {".wzt", "Wizard text", true}}))
+        << "descriptions, and no icon where there is none";
+    // A column click sorts by it, a second one turns the order, a new column is ascending.
+    for (const auto& [column, first] : {std::pair{1, ".wzb"}, {1, ".wzt"}, {0, ".wzb"}}) {
+        ClickColumn(column);
+        EXPECT_EQ(Rows().at(0).type, first) << column;
+    }
     options.onModal = [&] {
         settings.Save("Index", "Filter", ".WZQ .WZB ");
         index.Get().UpdateSettings();
@@ -267,10 +251,8 @@ TEST_F(WelcomeTest, ChangingFileTypesInOptionsRefillsTheListAndDrivesOpenGeneral
     Click(IDC_WELCOME_CHANGE_FILETYPES);
     EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes}));
     EXPECT_EQ(options.modalOwners, (std::vector<HWND>{wizard.hwnd()}));
-    std::vector<Row> rows = Rows();
-    std::sort(rows.begin(), rows.end(), [](const Row& a, const Row& b) { return a.type < b.type; });
-    EXPECT_EQ(rows, (std::vector<Row>{{".wzb", "A bare type", false},
-                                      {".wzq", "Not in the filter", true}}));
+    EXPECT_EQ(SortedRows(), (std::vector<Row>{{".wzb", "A bare type", false},
+                                              {".wzq", "Not in the filter", true}}));
 
     options.onModal = nullptr;
     EXPECT_EQ(WindowText(Field(IDC_WELCOME_DRIVES)), "click here.");
@@ -278,23 +260,6 @@ TEST_F(WelcomeTest, ChangingFileTypesInOptionsRefillsTheListAndDrivesOpenGeneral
     EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes, kOptionsGeneral}));
     Click(IDC_WELCOME_MORE);
     EXPECT_EQ(help.topics, (std::vector<int32_t>{20}));
-}
-
-TEST_F(WelcomeTest, AColumnClickSortsByItAndASecondClickTurnsTheOrder) {
-    Open();
-    const auto types = [&] {
-        std::vector<std::string> texts;
-        for (const Row& row : Rows()) {
-            texts.push_back(row.type);
-        }
-        return texts;
-    };
-    ClickColumn(1);
-    EXPECT_EQ(types(), (std::vector<std::string>{".wzb", ".wzt"})) << "by description, A to Z";
-    ClickColumn(1);
-    EXPECT_EQ(types(), (std::vector<std::string>{".wzt", ".wzb"}));
-    ClickColumn(0);
-    EXPECT_EQ(types(), (std::vector<std::string>{".wzb", ".wzt"})) << "a new column: ascending";
 }
 
 }  // namespace

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <tuple>
+
 #include "platform/Path.h"
 #include "platform/TextFile.h"
 #include "support/TempFolder.h"
@@ -55,15 +58,11 @@ TEST(ParseHelpFile, ReadsCrLfAndLfAndABomAlike) {
     for (char c : kTwoTopics) {
         crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
     }
-    const std::vector<HelpTopic> lf = ParseHelpFile(kTwoTopics);
+    const auto same = [](const HelpTopic& a, const HelpTopic& b) {
+        return std::tie(a.context, a.title, a.blocks) == std::tie(b.context, b.title, b.blocks);
+    };
     for (const std::string& text : {crlf, "\xEF\xBB\xBF" + crlf}) {
-        const std::vector<HelpTopic> other = ParseHelpFile(text);
-        ASSERT_EQ(other.size(), lf.size());
-        for (size_t i = 0; i < lf.size(); ++i) {
-            EXPECT_EQ(other[i].context, lf[i].context);
-            EXPECT_EQ(other[i].title, lf[i].title);
-            EXPECT_EQ(other[i].blocks, lf[i].blocks);
-        }
+        EXPECT_TRUE(std::ranges::equal(ParseHelpFile(text), ParseHelpFile(kTwoTopics), same));
     }
 }
 

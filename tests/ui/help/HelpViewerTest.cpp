@@ -94,12 +94,11 @@ TEST(HelpViewerPlace, HalfTheScreenButScaledWithTheDpiAndInsideTheWorkArea) {
     }
 }
 
-TEST_F(HelpViewerTest, ReusesTheOpenWindowForTheNextTopic) {
+TEST_F(HelpViewerTest, ReusesTheOpenWindowUntilClosedAndOpensAgainAfterwards) {
     help_.ShowTopic(kHelpUsingQuorin);
     const HWND viewer = Viewer();
     SetWindowPos(viewer, nullptr, 10, 20, 400, 300, SWP_NOZORDER);
     help_.ShowTopic(kHelpSettingUp);
-
     EXPECT_EQ(Viewer(), viewer);
     const std::string text = ShownText(viewer);
     EXPECT_NE(text.find("Choose the drives."), std::string::npos) << text;
@@ -107,11 +106,7 @@ TEST_F(HelpViewerTest, ReusesTheOpenWindowForTheNextTopic) {
     RECT place{};
     GetWindowRect(viewer, &place);
     EXPECT_EQ(place.left, 10);  // the user's place is kept
-}
 
-TEST_F(HelpViewerTest, CloseHelpDestroysTheWindowAndHelpOpensAgainAfterwards) {
-    help_.ShowTopic(kHelpUsingQuorin);
-    const HWND viewer = Viewer();
     help_.Close();
     EXPECT_FALSE(IsWindow(viewer));
     help_.Close();  // nothing open: nothing happens

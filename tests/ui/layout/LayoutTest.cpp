@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <iostream>
 #include <string>
 #include <vector>
 
@@ -14,6 +13,7 @@
 #include "platform/Text.h"
 #include "platform/registry/ScratchClasses.h"
 #include "ui/Dpi.h"
+#include "ui/WindowText.h"
 #include "ui/controls/ctlTabLabel.h"
 #include "ui/dialogs/DialogTestHelpers.h"
 #include "ui/dialogs/frmNewWord.h"
@@ -30,11 +30,10 @@ namespace {
 std::string Describe(HWND control, const RECT& rect) {
     wchar_t className[64] = {};
     GetClassNameW(control, className, 64);
-    wchar_t text[64] = {};
-    GetWindowTextW(control, text, 64);
-    return Narrow(className) + " " + std::to_string(GetDlgCtrlID(control)) + " \"" + Narrow(text) +
-           "\" at " + std::to_string(rect.left) + "," + std::to_string(rect.top) + "-" +
-           std::to_string(rect.right) + "," + std::to_string(rect.bottom);
+    return Narrow(className) + " " + std::to_string(GetDlgCtrlID(control)) + " \"" +
+           WindowText(control) + "\" at " + std::to_string(rect.left) + "," +
+           std::to_string(rect.top) + "-" + std::to_string(rect.right) + "," +
+           std::to_string(rect.bottom);
 }
 
 // The visible controls, at any depth, that are not wholly inside the window's client area;
@@ -64,16 +63,9 @@ std::vector<std::string> ControlsOutside(HWND window) {
     return walk.outside;
 }
 
-// Checks the window as it shows now and prints its sizes for the record.
 void ExpectInside(HWND window, const std::string& what) {
-    RECT client{};
-    GetClientRect(window, &client);
-    RECT frame{};
-    GetWindowRect(window, &frame);
-    std::cout << what << ": client " << client.right << " x " << client.bottom << ", outer "
-              << frame.right - frame.left << " x " << frame.bottom - frame.top << " at "
-              << WindowDpi(window) << " dpi\n";
-    EXPECT_EQ(ControlsOutside(window), std::vector<std::string>{}) << what;
+    EXPECT_EQ(ControlsOutside(window), std::vector<std::string>{})
+        << what << " at " << WindowDpi(window) << " dpi";
 }
 
 class MainLayoutTest : public MainWindowTest {};
@@ -118,9 +110,7 @@ TEST_F(ProgramFixture, WizardAtEachPageAndItsProgress) {
     frmWelcome wizard{WelcomeServices{index.Get(), prompter, options, help}};
     wizard.ShowModeless(nullptr);
     for (int page = 0; page < kWelcomePageCount; ++page) {
-        const HWND tab = GetDlgItem(wizard.hwnd(), IDC_WELCOME_TAB0 + page);
-        SendMessageW(tab, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
-        SendMessageW(tab, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+        PressAndRelease(GetDlgItem(wizard.hwnd(), IDC_WELCOME_TAB0 + page));
         ExpectInside(wizard.hwnd(), "wizard, page " + std::to_string(page + 1));
     }
     bool checked = false;
@@ -130,8 +120,7 @@ TEST_F(ProgramFixture, WizardAtEachPageAndItsProgress) {
             ExpectInside(wizard.hwnd(), "wizard, progress");
         }
     };
-    SendMessageW(wizard.hwnd(), WM_COMMAND, MAKEWPARAM(IDC_WELCOME_FINISH, kLabelClick),
-                 reinterpret_cast<LPARAM>(GetDlgItem(wizard.hwnd(), IDC_WELCOME_FINISH)));
+    ClickItem(wizard.hwnd(), IDC_WELCOME_FINISH);
     EXPECT_TRUE(checked);
 }
 
