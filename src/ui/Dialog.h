@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "platform/WinHandles.h"
+#include "ui/DialogItems.h"
 #include "ui/Window.h"
 
 namespace quorin {
@@ -14,7 +15,7 @@ namespace quorin {
 // Cancel; both modal and modeless dialogs get their keys through the program's one message
 // pump. The controls take the system's message font at the dialog's DPI, and the focus starts
 // on the first control that takes it.
-class Dialog : public Window {
+class Dialog : public Window, protected DialogItems {
   public:
     // Shows the dialog over `owner`, which stays disabled until it closes and is then enabled
     // and activated again. Returns the result given to EndDialog (IDOK, IDCANCEL).
@@ -31,7 +32,7 @@ class Dialog : public Window {
   protected:
     explicit Dialog(int templateId) : templateId_(templateId) {}
 
-    HWND Item(int id) const { return GetDlgItem(hwnd(), id); }
+    HWND ItemsParent() const override { return hwnd(); }
 
     // WM_INITDIALOG, after the font is set. True lets the focus go to the first control that
     // takes it; false when OnInit put the focus somewhere itself.

@@ -14,6 +14,10 @@ FileTypeList Other(FileTypeList list) {
     return list == FileTypeList::Include ? FileTypeList::Exclude : FileTypeList::Include;
 }
 
+int ListId(FileTypeList list) {
+    return list == FileTypeList::Include ? IDC_OPTIONS_INCLUDE : IDC_OPTIONS_EXCLUDE;
+}
+
 }  // namespace
 
 void FileTypesPage::Load(std::string filter, bool filterIsInclude, ExtensionSource extensions) {
@@ -28,11 +32,11 @@ void FileTypesPage::Load(std::string filter, bool filterIsInclude, ExtensionSour
 }
 
 bool FileTypesPage::IncludeOnly() const {
-    return IsDlgButtonChecked(hwnd(), IDC_OPTIONS_INCLUDEMODE) == BST_CHECKED;
+    return IsButtonChecked(IDC_OPTIONS_INCLUDEMODE);
 }
 
 HWND FileTypesPage::List(FileTypeList list) const {
-    return Item(list == FileTypeList::Include ? IDC_OPTIONS_INCLUDE : IDC_OPTIONS_EXCLUDE);
+    return Item(ListId(list));
 }
 
 void FileTypesPage::FirstShown() {
@@ -87,8 +91,8 @@ void FileTypesPage::OnCommand(int id, int code, HWND) {
 // indexed stay the same. A click on the option already chosen, which Windows reports as well,
 // is no change of mode.
 void FileTypesPage::optFileTypes_Click(FileTypeList chosen) {
-    EnableWindow(List(chosen), TRUE);
-    EnableWindow(List(Other(chosen)), FALSE);
+    EnableItem(ListId(chosen), true);
+    EnableItem(ListId(Other(chosen)), false);
     const bool changed = chosen != mode_;
     mode_ = chosen;
     if (suppressEvents_ || !lists_ || !changed) {

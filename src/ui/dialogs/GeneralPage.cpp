@@ -16,14 +16,6 @@ namespace quorin {
 
 namespace {
 
-void SetChecked(HWND box, bool checked) {
-    SendMessageW(box, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
-}
-
-bool Checked(HWND box) {
-    return SendMessageW(box, BM_GETCHECK, 0, 0) == BST_CHECKED;
-}
-
 // The hotkey control speaks HOTKEYF_ flags, RegisterHotKey MOD_ flags.
 constexpr std::array<std::pair<unsigned, unsigned>, 3> kFlagPairs = {{
     {HOTKEYF_CONTROL, MOD_CONTROL},
@@ -51,9 +43,9 @@ Hotkey FromControlValue(LRESULT value) {
 
 void GeneralPage::Load(const clsIndex& index, const DriveSource& drives) {
     SetText(Interval(), std::to_string(index.UpdateInterval));
-    SetChecked(Item(IDC_OPTIONS_SYSTEM), index.IncludeSystemFolders);
-    SetChecked(Item(IDC_OPTIONS_IGNORE), index.IgnoreTempFolders);
-    SetChecked(Item(IDC_OPTIONS_ALLFOLDERS), index.AllFolders);
+    CheckButton(IDC_OPTIONS_SYSTEM, index.IncludeSystemFolders);
+    CheckButton(IDC_OPTIONS_IGNORE, index.IgnoreTempFolders);
+    CheckButton(IDC_OPTIONS_ALLFOLDERS, index.AllFolders);
 
     entries_ = OfferedDriveEntries(drives.entries(), drives.typeOf);
     const HWND lstDrives = Item(IDC_OPTIONS_DRIVES);
@@ -77,13 +69,13 @@ void GeneralPage::LoadStart(const std::optional<Hotkey>& hotkey, bool signIn,
     SendMessageW(field, HKM_SETRULES, HKCOMB_NONE | HKCOMB_S, MAKELPARAM(HOTKEYF_ALT, 0));
     const Hotkey shown = hotkey.value_or(*ParseHotkey(kDefaultHotkeyText));
     SendMessageW(field, HKM_SETHOTKEY, ControlValue(shown), 0);
-    SetChecked(Item(IDC_OPTIONS_USEHOTKEY), hotkey.has_value());
-    SetChecked(Item(IDC_OPTIONS_SIGNIN), signIn);
+    CheckButton(IDC_OPTIONS_USEHOTKEY, hotkey.has_value());
+    CheckButton(IDC_OPTIONS_SIGNIN, signIn);
     ShowHotkeyState();
 }
 
 std::optional<Hotkey> GeneralPage::ChosenHotkey() const {
-    if (!Checked(Item(IDC_OPTIONS_USEHOTKEY))) {
+    if (!IsButtonChecked(IDC_OPTIONS_USEHOTKEY)) {
         return std::nullopt;
     }
     // Through the text form, so that an empty field, or what the setting could not hold, is none.
@@ -92,13 +84,13 @@ std::optional<Hotkey> GeneralPage::ChosenHotkey() const {
 }
 
 bool GeneralPage::SignIn() const {
-    return Checked(Item(IDC_OPTIONS_SIGNIN));
+    return IsButtonChecked(IDC_OPTIONS_SIGNIN);
 }
 
 // The field is usable only while the box is ticked; the line below it says when another
 // program holds the combination.
 void GeneralPage::ShowHotkeyState() {
-    EnableWindow(Item(IDC_OPTIONS_HOTKEY), Checked(Item(IDC_OPTIONS_USEHOTKEY)));
+    EnableItem(IDC_OPTIONS_HOTKEY, IsButtonChecked(IDC_OPTIONS_USEHOTKEY));
     const std::optional<Hotkey> chosen = ChosenHotkey();
     const bool taken = chosen && hotkeys_ != nullptr && !hotkeys_->HotkeyFree(*chosen);
     SetText(Item(IDC_OPTIONS_HOTKEYINUSE),
@@ -108,9 +100,9 @@ void GeneralPage::ShowHotkeyState() {
 
 void GeneralPage::Collect(IndexOptions& options) const {
     options.interval = WindowText(Interval());
-    options.includeSystemFolders = Checked(Item(IDC_OPTIONS_SYSTEM));
-    options.ignoreTempFolders = Checked(Item(IDC_OPTIONS_IGNORE));
-    options.allFolders = Checked(Item(IDC_OPTIONS_ALLFOLDERS));
+    options.includeSystemFolders = IsButtonChecked(IDC_OPTIONS_SYSTEM);
+    options.ignoreTempFolders = IsButtonChecked(IDC_OPTIONS_IGNORE);
+    options.allFolders = IsButtonChecked(IDC_OPTIONS_ALLFOLDERS);
     std::vector<bool> selected;
     for (size_t i = 0; i < entries_.size(); ++i) {
         selected.push_back(SendMessageW(Item(IDC_OPTIONS_DRIVES), LB_GETSEL, i, 0) > 0);

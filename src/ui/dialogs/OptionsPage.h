@@ -2,17 +2,16 @@
 
 #include <windows.h>
 
+#include "ui/DialogItems.h"
+
 namespace quorin {
 
 // One page of the Options dialog: a child dialog laid into the tab control's display area.
 // What its controls tell it goes on to the Options dialog, which hands it to the page object.
-class OptionsPage {
+class OptionsPage : protected DialogItems {
   public:
-    virtual ~OptionsPage() = default;
-
     void Create(HWND dialog, int templateId);
     HWND hwnd() const { return page_; }
-    HWND Item(int id) const { return GetDlgItem(page_, id); }
     // Shown or hidden, and filled the first time it is shown.
     void Show(bool shown);
 
@@ -20,6 +19,7 @@ class OptionsPage {
     virtual void OnNotify(const NMHDR& /*header*/) {}
 
   protected:
+    HWND ItemsParent() const override { return page_; }
     virtual void FirstShown() {}
 
   private:

@@ -333,8 +333,8 @@ void frmWelcome::ShowPage() {
 void frmWelcome::ShowBlock(int block, bool shown) const {
     const int first = IDC_WELCOME_PAGE0 + block * kBlockSize;
     for (int id = first; id < first + kBlockSize; ++id) {
-        if (const HWND control = Item(id)) {
-            ShowWindow(control, shown ? SW_SHOW : SW_HIDE);
+        if (Item(id) != nullptr) {
+            ShowItem(id, shown);
         }
     }
 }
