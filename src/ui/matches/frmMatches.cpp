@@ -151,7 +151,7 @@ bool frmMatches::OnCreate(const CREATESTRUCTW& create) {
 
 void frmMatches::OnDpiChanged(int dpi, const RECT& suggested) {
     dpi_ = dpi;
-    ApplyFont();
+    font_ = SetMessageFont(hwnd(), dpi_);  // the controls let go of the old font first
     Window::OnDpiChanged(dpi, suggested);
 }
 
@@ -159,7 +159,7 @@ void frmMatches::Form_Load(const MatchesHost& host) {
     host_.emplace(host);
     dpi_ = WindowDpi(hwnd());
     CreateControls();
-    ApplyFont();
+    font_ = SetMessageFont(hwnd(), dpi_);
     RestorePlace();
 
     const int iconSize = ScaleForDpi(kSmallIconPixels, dpi_);
@@ -365,16 +365,6 @@ void frmMatches::CreateControls() {
                                  WS_TABSTOP | BS_AUTOCHECKBOX | BS_MULTILINE, kMatchesAssociateId);
     cmdOpen =
         CreateControl(hwnd(), L"BUTTON", "Open", WS_TABSTOP | BS_DEFPUSHBUTTON, kMatchesOpenId);
-}
-
-void frmMatches::ApplyFont() {
-    const LOGFONTW logFont = MessageFont(dpi_);
-    UniqueFont font(CreateFontIndirectW(&logFont));
-    for (HWND control : {Label1, lvwItems, chkAssociate, cmdOpen}) {
-        SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
-    }
-    // The controls have let go of the old font.
-    font_ = std::move(font);
 }
 
 // A saved place is kept inside a monitor's work area, whatever screen or DPI it was saved on;

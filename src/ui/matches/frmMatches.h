@@ -84,7 +84,6 @@ class frmMatches final : public Window {
     LRESULT lvwItems_FindItem(const NMLVFINDITEMW& find) const;
 
     void CreateControls();
-    void ApplyFont();
     TwipsSize AssociateSize() const;
     void RestorePlace();
     void ShowRow(LVITEMW& item);
