@@ -14,6 +14,7 @@
 #include "ui/ListViewColumn.h"
 #include "ui/PaintDc.h"
 #include "ui/ProgramIcon.h"
+#include "ui/SmallIconList.h"
 #include "ui/TabKeys.h"
 #include "ui/TextFlow.h"
 #include "ui/WindowText.h"
@@ -28,7 +29,6 @@ namespace {
 
 constexpr int kProgressBlock = kWelcomePageCount;  // the progress page, after the four pages
 constexpr int kBlockSize = 10;
-constexpr int kSmallIconPixels = 16;  // at 96 DPI
 constexpr int kTypeColumnPixels = 80;
 constexpr int kDescriptionColumnPixels = 330;
 
@@ -113,8 +113,7 @@ void frmWelcome::CreateTabs() {
 
 void frmWelcome::PrepareFileTypesList() {
     const int dpi = WindowDpi(hwnd());
-    const int iconSize = ScaleForDpi(kSmallIconPixels, dpi);
-    imlSmall.reset(ImageList_Create(iconSize, iconSize, ILC_COLOR32 | ILC_MASK, 0, 16));
+    imlSmall = SmallIconList(dpi);
     ListView_SetImageList(lvwFileTypes, imlSmall.get(), LVSIL_SMALL);
     ListView_SetExtendedListViewStyle(lvwFileTypes, LVS_EX_FULLROWSELECT);
     AddListColumn(lvwFileTypes, 0, L"Type", ScaleForDpi(kTypeColumnPixels, dpi));

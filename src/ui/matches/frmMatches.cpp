@@ -17,6 +17,7 @@
 #include "ui/Dpi.h"
 #include "ui/Hourglass.h"
 #include "ui/ListViewColumn.h"
+#include "ui/SmallIconList.h"
 #include "ui/WindowClass.h"
 #include "ui/WindowText.h"
 #include "ui/matches/MatchesLayout.h"
@@ -32,8 +33,7 @@ constexpr std::string_view kLeft = "Left";
 constexpr std::string_view kTop = "Top";
 constexpr std::string_view kWidth = "Width";
 constexpr std::string_view kHeight = "Height";
-constexpr int kSmallIconPixels = 16;  // at 96 DPI
-constexpr int kCheckBoxPixels = 20;   // a check box's box and gap before its caption, at 96 DPI
+constexpr int kCheckBoxPixels = 20;  // a check box's box and gap before its caption, at 96 DPI
 constexpr int kNameColumnTwips = 2700;
 constexpr int kLocationColumnTwips = 3800;
 
@@ -162,9 +162,8 @@ void frmMatches::Form_Load(const MatchesHost& host) {
     font_ = SetMessageFont(hwnd(), dpi_);
     RestorePlace();
 
-    const int iconSize = ScaleForDpi(kSmallIconPixels, dpi_);
-    imlLarge.reset(ImageList_Create(iconSize, iconSize, ILC_COLOR32 | ILC_MASK, 0, 8));
-    imlSmall.reset(ImageList_Create(iconSize, iconSize, ILC_COLOR32 | ILC_MASK, 0, 8));
+    imlLarge = SmallIconList(dpi_);
+    imlSmall = SmallIconList(dpi_);
     // Crossed on purpose: the extractor answers with the index in the list it was given as
     // large, and that list is the one the rows take their small icons from. Both lists get the
     // same image at the same index.
