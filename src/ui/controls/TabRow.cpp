@@ -1,5 +1,7 @@
 #include "ui/controls/TabRow.h"
 
+#include "ui/PaintDc.h"
+
 namespace quorin {
 
 void TabRow::Create(HWND parent, int firstId, std::span<const std::string_view> captions) {
@@ -39,6 +41,14 @@ void TabRow::PlaceInRow(int left, int top) {
         left += width;
     }
     Place(lefts, top);
+}
+
+void TabRow::PaintBand(HWND window, int bottom) {
+    PaintDc paint(window);
+    RECT band{};
+    GetClientRect(window, &band);
+    band.bottom = bottom;
+    FillRect(paint.get(), &band, GetSysColorBrush(COLOR_BTNSHADOW));
 }
 
 }  // namespace quorin

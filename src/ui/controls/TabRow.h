@@ -26,6 +26,10 @@ class TabRow {
     // Each tab starting where the previous one ends.
     void PlaceInRow(int left, int top);
 
+    // Answers the window's WM_PAINT: the band behind the row, from the top of its client area
+    // down to `bottom` pixels, in the colour of the unselected tabs.
+    static void PaintBand(HWND window, int bottom);
+
   private:
     std::vector<ctlTabLabel*> tabs_;  // owned by their windows
 };

@@ -12,7 +12,6 @@
 #include "ui/Dpi.h"
 #include "ui/Hourglass.h"
 #include "ui/ListViewColumn.h"
-#include "ui/PaintDc.h"
 #include "ui/ProgramIcon.h"
 #include "ui/SmallIconList.h"
 #include "ui/TabKeys.h"
@@ -120,15 +119,11 @@ void frmWelcome::PrepareFileTypesList() {
     AddListColumn(lvwFileTypes, 1, L"Description", ScaleForDpi(kDescriptionColumnPixels, dpi));
 }
 
-// The band behind the tab row, in the colour of the unselected tabs.
+// The band as tall as the tabs.
 void frmWelcome::Form_Paint() {
-    PaintDc paint(hwnd());
-    RECT band{};
-    GetClientRect(hwnd(), &band);
     RECT tab{};
     GetWindowRect(tabLabel[0].hwnd(), &tab);
-    band.bottom = tab.bottom - tab.top;
-    FillRect(paint.get(), &band, GetSysColorBrush(COLOR_BTNSHADOW));
+    TabRow::PaintBand(hwnd(), tab.bottom - tab.top);
 }
 
 LRESULT frmWelcome::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

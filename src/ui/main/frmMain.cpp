@@ -9,7 +9,6 @@
 #include "ui/FocusColors.h"
 #include "ui/Hourglass.h"
 #include "ui/MessagePump.h"
-#include "ui/PaintDc.h"
 #include "ui/ProgramIcon.h"
 #include "ui/TabKeys.h"
 #include "ui/TextFlow.h"
@@ -348,11 +347,7 @@ bool frmMain::OnKey(const MSG& message) {
 }
 
 void frmMain::Form_Paint() {
-    PaintDc paint(hwnd());
-    RECT tabRow{};
-    GetClientRect(hwnd(), &tabRow);
-    tabRow.bottom = TwipsToPixels(kPanelTopTwips, dpi_);
-    FillRect(paint.get(), &tabRow, GetSysColorBrush(COLOR_BTNSHADOW));
+    TabRow::PaintBand(hwnd(), TwipsToPixels(kPanelTopTwips, dpi_));
 }
 
 // Where the word box cannot take the focus (another panel is shown), the focus stays where it
