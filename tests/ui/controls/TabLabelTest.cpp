@@ -131,8 +131,9 @@ TEST_F(TabLabelTest, HoverUnderlinesAndPressDragOutAndReleaseClicksAndSelects) {
     EXPECT_EQ(GetCapture(), nullptr);
 }
 
-// A release clicks only after a press the tab still holds; disabling ends a hover.
-TEST_F(TabLabelTest, ReleaseAfterLosingTheCaptureDoesNothingAndDisablingEndsAHover) {
+// A release clicks only after a press the tab still holds; disabling ends a hover, and a
+// disabled tab ignores the mouse.
+TEST_F(TabLabelTest, ReleaseAfterLosingTheCaptureOrWhileDisabledDoesNothing) {
     SendMouse(index.hwnd(), WM_LBUTTONDOWN, 3, 3);
     SetCapture(parent.hwnd());
     SendMouse(index.hwnd(), WM_LBUTTONUP, -4, 3);
@@ -145,6 +146,11 @@ TEST_F(TabLabelTest, ReleaseAfterLosingTheCaptureDoesNothingAndDisablingEndsAHov
     index.SetEnabled(false);
     EXPECT_FALSE(index.Enabled());
     EXPECT_EQ(GetCapture(), nullptr);
+    for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP}) {
+        SendMouse(index.hwnd(), message, 3, 3);
+        EXPECT_EQ(GetCapture(), nullptr);
+    }
+    EXPECT_TRUE(parent.commands.empty());
     index.SetEnabled(true);
     EXPECT_EQ(Ink(index.hwnd()), indexInk);
 }
