@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cctype>
-#include <string>
+#include <string_view>
 
 #include "ui/controls/LabelModel.h"
 
@@ -22,55 +22,50 @@ TEST(LabelModel, InsideTestsOfTheTwoLabels) {
     }
 }
 
-// Each step is one letter: m/M a move outside/inside, d/D a press, u/U a release, r a reset.
 TEST(LabelModel, MouseSequences) {
     struct Case {
-        const char* steps;
-        bool selected;
+        std::string_view steps;
         bool underlined, captured;
         int clicks;
     };
+    // m/M a move outside/inside, d/D a press, u/U a release, r a reset, s selecting the tab first.
     const Case cases[] = {
-        {"M", false, true, true, 0},     // hover underlines and holds the capture
-        {"Mm", false, false, false, 0},  // leaving lets both go
-        {"M", true, false, false, 0},    // a selected tab neither underlines nor captures
-        {"U", false, true, true, 0},     // a release without a press is only a move
-        {"u", false, false, false, 0},
-        {"DU", false, false, false, 1},   // a click ends the hover
-        {"Dm", false, false, true, 0},    // a press keeps the capture outside
-        {"Dmu", false, false, false, 1},  // so a release anywhere still clicks
-        {"dU", false, false, false, 1},
-        {"DU", true, false, false, 1},  // the selected tab still clicks
-        {"Dr", false, false, false, 0},
-        {"DrU", false, true, true, 0},  // a capture taken away drops the press
-        {"DUU", false, true, true, 1},
+        {"M", true, true, 0},      // hover underlines and holds the capture
+        {"Mm", false, false, 0},   // leaving lets both go
+        {"sM", false, false, 0},   // a selected tab neither underlines nor captures
+        {"U", true, true, 0},      // a release without a press is only a move
+        {"u", false, false, 0},    // ... also outside
+        {"DU", false, false, 1},   // a click ends the hover
+        {"DUU", true, true, 1},    // ... and the next release is a move again
+        {"Dm", false, true, 0},    // a press keeps the capture outside
+        {"Dmu", false, false, 1},  // so a release anywhere still clicks
+        {"dU", false, false, 1},   // ... and wherever the press began
+        {"sDU", false, false, 1},  // the selected tab still clicks
+        {"sDr", false, false, 0},  // a capture taken away drops the press, not the selection
+        {"DrU", true, true, 0},    // ... so the release after it is only a move
     };
     for (const Case& c : cases) {
         LabelModel model;
-        model.SetSelected(c.selected);
         int clicks = 0;
-        for (const char* step = c.steps; *step != '\0'; ++step) {
-            const bool inside = std::isupper(static_cast<unsigned char>(*step)) != 0;
-            switch (std::tolower(static_cast<unsigned char>(*step))) {
-                case 'm':
-                    model.MouseMove(inside);
-                    break;
-                case 'd':
-                    model.MouseDown(inside);
-                    break;
-                case 'u':
-                    clicks += model.MouseUp(inside) ? 1 : 0;
-                    break;
-                default:
-                    model.Reset();
-                    break;
+        for (const char step : c.steps) {
+            const bool inside = std::isupper(static_cast<unsigned char>(step)) != 0;
+            const int kind = std::tolower(static_cast<unsigned char>(step));
+            if (kind == 's') {
+                model.SetSelected(true);
+            } else if (kind == 'm') {
+                model.MouseMove(inside);
+            } else if (kind == 'd') {
+                model.MouseDown(inside);
+            } else if (kind == 'u') {
+                clicks += model.MouseUp(inside) ? 1 : 0;
+            } else {
+                model.Reset();
             }
         }
-        const std::string at = std::string(c.steps) + (c.selected ? " selected" : "");
-        EXPECT_EQ(model.Underlined(), c.underlined) << at;
-        EXPECT_EQ(model.Captured(), c.captured) << at;
-        EXPECT_EQ(clicks, c.clicks) << at;
-        EXPECT_EQ(model.Selected(), c.selected) << at;
+        EXPECT_EQ(model.Underlined(), c.underlined) << c.steps;
+        EXPECT_EQ(model.Captured(), c.captured) << c.steps;
+        EXPECT_EQ(clicks, c.clicks) << c.steps;
+        EXPECT_EQ(model.Selected(), c.steps[0] == 's') << c.steps;
     }
 }
 
