@@ -43,13 +43,11 @@ TEST(FileTypeListsTest, KeepsOnlyPlainExtensionsInRegistryOrderAndCase) {
 }
 
 TEST(FileTypeListsTest, SavedFilterPreselectsInTheSavedModesListOnly) {
-    const FileTypeLists include({".txt", ".doc", ".bmp"}, ".TXT .BMP ", true);
-    EXPECT_EQ(include.Selection(FileTypeList::Include), (Marks{true, false, true}));
-    EXPECT_EQ(include.Selection(FileTypeList::Exclude), (Marks{false, false, false}));
-
-    const FileTypeLists exclude({".txt", ".doc", ".bmp"}, ".TXT .BMP ", false);
-    EXPECT_EQ(exclude.Selection(FileTypeList::Include), (Marks{false, false, false}));
-    EXPECT_EQ(exclude.Selection(FileTypeList::Exclude), (Marks{true, false, true}));
+    for (const bool include : {true, false}) {
+        const FileTypeLists lists({".txt", ".doc", ".bmp"}, ".TXT .BMP ", include);
+        EXPECT_EQ(lists.Selection(FileTypeList::Include), (Marks{include, false, include}));
+        EXPECT_EQ(lists.Selection(FileTypeList::Exclude), (Marks{!include, false, !include}));
+    }
 
     // A name is listed only with its blank: ".HTM" is not in ".HTML ", the last one needs its own.
     EXPECT_FALSE(FilterLists(".HTML .TXT", ".htm"));
