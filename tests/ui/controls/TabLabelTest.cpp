@@ -109,25 +109,12 @@ TEST_F(TabLabelTest, BoldLastsUntilTheNextResize) {
     EXPECT_EQ(Ink(index.hwnd()), bold);
 }
 
-TEST_F(TabLabelTest, HoverUnderlinesAndHoldsTheCaptureUntilThePointerLeaves) {
+// The hover, press and click rules are LabelModel's; this proves the tab follows them.
+TEST_F(TabLabelTest, HoverUnderlinesAndPressDragOutAndReleaseClicksAndSelects) {
     SendMouse(index.hwnd(), WM_MOUSEMOVE, 0, 0);  // the first column and row are inside
     EXPECT_GT(Ink(index.hwnd()), indexInk);
     EXPECT_EQ(GetCapture(), index.hwnd());
-    SendMouse(index.hwnd(), WM_MOUSEMOVE, indexSize.cx - 1, indexSize.cy - 1);
-    EXPECT_EQ(GetCapture(), index.hwnd());
 
-    SendMouse(index.hwnd(), WM_MOUSEMOVE, indexSize.cx, 2);
-    EXPECT_EQ(Ink(index.hwnd()), indexInk);
-    EXPECT_EQ(GetCapture(), nullptr);
-
-    // The selected tab never underlines.
-    const int goInk = Ink(go.hwnd());
-    SendMouse(go.hwnd(), WM_MOUSEMOVE, 3, 3);
-    EXPECT_EQ(Ink(go.hwnd()), goInk);
-    EXPECT_EQ(GetCapture(), nullptr);
-}
-
-TEST_F(TabLabelTest, PressDragOutAndReleaseClicksAndSelects) {
     SendMouse(index.hwnd(), WM_LBUTTONDOWN, 3, 3);
     SendMouse(index.hwnd(), WM_MOUSEMOVE, -5, 40);
     EXPECT_EQ(Ink(index.hwnd()), indexInk);
@@ -144,16 +131,14 @@ TEST_F(TabLabelTest, PressDragOutAndReleaseClicksAndSelects) {
     EXPECT_EQ(GetCapture(), nullptr);
 }
 
-// A release clicks only after a press the tab still holds; disabling ends a hover.
-TEST_F(TabLabelTest, ReleaseWithoutAPressOrAfterLosingTheCaptureDoesNothing) {
-    SendMouse(index.hwnd(), WM_LBUTTONUP, 3, 3);
-    EXPECT_TRUE(parent.commands.empty());
-    EXPECT_FALSE(index.Selected());
-
+// A release clicks only after a press the tab still holds; disabling ends a hover, and a
+// disabled tab ignores the mouse.
+TEST_F(TabLabelTest, ReleaseAfterLosingTheCaptureOrWhileDisabledDoesNothing) {
     SendMouse(index.hwnd(), WM_LBUTTONDOWN, 3, 3);
     SetCapture(parent.hwnd());
     SendMouse(index.hwnd(), WM_LBUTTONUP, -4, 3);
     EXPECT_TRUE(parent.commands.empty());
+    EXPECT_FALSE(index.Selected());
     EXPECT_EQ(GetCapture(), parent.hwnd());  // not released: no longer the tab's
     ReleaseCapture();
 
@@ -161,6 +146,11 @@ TEST_F(TabLabelTest, ReleaseWithoutAPressOrAfterLosingTheCaptureDoesNothing) {
     index.SetEnabled(false);
     EXPECT_FALSE(index.Enabled());
     EXPECT_EQ(GetCapture(), nullptr);
+    for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP}) {
+        SendMouse(index.hwnd(), message, 3, 3);
+        EXPECT_EQ(GetCapture(), nullptr);
+    }
+    EXPECT_TRUE(parent.commands.empty());
     index.SetEnabled(true);
     EXPECT_EQ(Ink(index.hwnd()), indexInk);
 }

@@ -22,32 +22,19 @@ using Names = std::vector<std::string>;
 using Marks = std::vector<bool>;
 
 TEST(IntervalTextTest, LeadingNumberInShortestFormAndOneForZero) {
-    for (const auto& [typed, shown] : {std::pair{"3 hours", "3"},
-                                       {"2.50", "2.5"},
-                                       {"1.5", "1.5"},
-                                       {"  12", "12"},
-                                       {"-3", "-3"},
-                                       {"-2", "-2"},
-                                       {"-2.50x", "-2.5"},
-                                       {"+4", "4"},
-                                       {".5", "0.5"},
-                                       {"7.", "7"},
-                                       {"1.2.3", "1.2"},
-                                       {"1e3", "1"},
-                                       {"100000000000000000000", "100000000000000000000"},
-                                       {"0", "1"},
-                                       {"", "1"},
-                                       {"abc", "1"},
-                                       {"0.0", "1"},
-                                       {"-0", "1"},
-                                       {".", "1"},
-                                       {"-", "1"},
-                                       {"\t5", "1"},
-                                       {"x5", "1"}}) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"3 hours", "3"}, {"2.50", "2.5"},    {"1.5", "1.5"}, {"  12", "12"}, {"-3", "-3"},
+        {"-2", "-2"},     {"-2.50x", "-2.5"}, {"+4", "4"},    {".5", "0.5"},  {"7.", "7"},
+        {"1.2.3", "1.2"}, {"1e3", "1"},       {"0", "1"},     {"", "1"},      {"abc", "1"},
+        {"0.0", "1"},     {"-0", "1"},        {".", "1"},     {"-", "1"},     {"\t5", "1"},
+        {"x5", "1"},
+    };
+    for (const auto& [typed, shown] : cases) {
         EXPECT_EQ(CorrectedIntervalText(typed), shown) << '"' << typed << '"';
     }
-    const std::string huge(400, '9');
-    EXPECT_EQ(CorrectedIntervalText(huge), huge);
+    for (const std::string& huge : {std::string("100000000000000000000"), std::string(400, '9')}) {
+        EXPECT_EQ(CorrectedIntervalText(huge), huge);
+    }
 }
 
 TEST(FileTypeListsTest, KeepsOnlyPlainExtensionsInRegistryOrderAndCase) {
@@ -56,13 +43,11 @@ TEST(FileTypeListsTest, KeepsOnlyPlainExtensionsInRegistryOrderAndCase) {
 }
 
 TEST(FileTypeListsTest, SavedFilterPreselectsInTheSavedModesListOnly) {
-    const FileTypeLists include({".txt", ".doc", ".bmp"}, ".TXT .BMP ", true);
-    EXPECT_EQ(include.Selection(FileTypeList::Include), (Marks{true, false, true}));
-    EXPECT_EQ(include.Selection(FileTypeList::Exclude), (Marks{false, false, false}));
-
-    const FileTypeLists exclude({".txt", ".doc", ".bmp"}, ".TXT .BMP ", false);
-    EXPECT_EQ(exclude.Selection(FileTypeList::Include), (Marks{false, false, false}));
-    EXPECT_EQ(exclude.Selection(FileTypeList::Exclude), (Marks{true, false, true}));
+    for (const bool include : {true, false}) {
+        const FileTypeLists lists({".txt", ".doc", ".bmp"}, ".TXT .BMP ", include);
+        EXPECT_EQ(lists.Selection(FileTypeList::Include), (Marks{include, false, include}));
+        EXPECT_EQ(lists.Selection(FileTypeList::Exclude), (Marks{!include, false, !include}));
+    }
 
     // A name is listed only with its blank: ".HTM" is not in ".HTML ", the last one needs its own.
     EXPECT_FALSE(FilterLists(".HTML .TXT", ".htm"));

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ui/main/IndexSummary.h"
@@ -43,14 +44,9 @@ TEST(IndexSummary, CountsAreGroupedAndFoldersLeftOutMakeALink) {
 TEST(TrayRecord, HasTheClassicLayoutAndFields) {
     const TrayRecord record = MakeTrayRecord(0x1234, 0x5678, "Quorin");
     const auto* bytes = reinterpret_cast<const unsigned char*>(&record);
-    uint32_t fields[6] = {};
-    std::memcpy(fields, bytes, sizeof(fields));
-    EXPECT_EQ(fields[0], 88u);
-    EXPECT_EQ(fields[1], 0x1234u);
-    EXPECT_EQ(fields[2], 1u);
-    EXPECT_EQ(fields[3], 7u);
-    EXPECT_EQ(fields[4], 0x200u);
-    EXPECT_EQ(fields[5], 0x5678u);
+    std::vector<uint32_t> fields(6);
+    std::memcpy(fields.data(), bytes, 6 * sizeof(uint32_t));
+    EXPECT_EQ(fields, (std::vector<uint32_t>{88, 0x1234, 1, 7, 0x200, 0x5678}));
     EXPECT_EQ(std::string(reinterpret_cast<const char*>(bytes + 24)), "Quorin");
 }
 
@@ -124,9 +120,7 @@ TEST(PlaceInPixels, ComesBackOnTheMonitorOfItsDpi) {
     };
     for (const Case& c : kCases) {
         const POINT pixels = PlaceInPixels(c.twips, c.keptDpi, c.monitors, 144);
-        EXPECT_EQ(pixels.x, c.pixels.x)
-            << c.twips.x << ", " << c.twips.y << " kept at " << c.keptDpi;
-        EXPECT_EQ(pixels.y, c.pixels.y)
+        EXPECT_EQ(std::pair(pixels.x, pixels.y), std::pair(c.pixels.x, c.pixels.y))
             << c.twips.x << ", " << c.twips.y << " kept at " << c.keptDpi;
     }
 }

@@ -85,8 +85,7 @@ class IconExtractorTest : public ::testing::Test {
     Picture IconOf(const std::string& file, int index) {
         std::string filePath = file;
         int iconIndex = index;
-        const std::optional<int> image = extractor_.AddIcon("", filePath, iconIndex);
-        return image ? Draw(large_, *image) : Picture{};
+        return DrawLarge(extractor_.AddIcon("", filePath, iconIndex));
     }
 
     Picture DrawLarge(std::optional<int> image) { return image ? Draw(large_, *image) : Picture{}; }

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "platform/Text.h"
@@ -89,10 +90,8 @@ TEST(MatchesLayoutTest, ACheckBoxCaptionTooLongForItsPlaceTakesARowAboveOpen) {
 TEST(MatchesPlaceTest, AWindowIsKeptInsideTheWorkAreaAndShrunkOnlyWhenLarger) {
     const RECT work{0, 0, 1280, 760};
     const auto expectRect = [](const RECT& rect, RECT expected) {
-        EXPECT_EQ(rect.left, expected.left);
-        EXPECT_EQ(rect.top, expected.top);
-        EXPECT_EQ(rect.right, expected.right);
-        EXPECT_EQ(rect.bottom, expected.bottom);
+        EXPECT_EQ(std::tie(rect.left, rect.top, rect.right, rect.bottom),
+                  std::tie(expected.left, expected.top, expected.right, expected.bottom));
     };
     expectRect(KeptInside({100, 80, 580, 400}, work), {100, 80, 580, 400});  // inside: as it was
     expectRect(KeptInside({1000, 600, 1480, 920}, work), {800, 440, 1280, 760});
