@@ -9,6 +9,7 @@
 #include "platform/Prompter.h"
 #include "platform/Text.h"
 #include "resource.h"
+#include "ui/BuildAnimation.h"
 #include "ui/Dpi.h"
 #include "ui/Hourglass.h"
 #include "ui/ListViewColumn.h"
@@ -164,8 +165,8 @@ void frmWelcome::EnableTabs() {
     tabLabel.SetEnabled(true);
 }
 
-void frmWelcome::BeginIndexing(const std::string& animationPath) {
-    SendMessageW(Animation1, ACM_OPENW, 0, reinterpret_cast<LPARAM>(Widen(animationPath).c_str()));
+void frmWelcome::BuildStarted() {
+    PlayBuildAnimation(Animation1, services_.index.ProgramFolder());
     DisableTabs();
 }
 
@@ -300,7 +301,7 @@ void frmWelcome::lnkFinish_Click() {
 }
 
 void frmWelcome::LeaveProgressPage() {
-    SendMessageW(Animation1, ACM_OPENW, 0, 0);
+    StopBuildAnimation(Animation1);
     ShowBlock(kProgressBlock, false);
     lnkFinish->SetEnabled(true);
     lnkCancel->SetEnabled(true);

@@ -37,7 +37,7 @@ inline constexpr int kWelcomePageCount = 4;
 // first index on the progress page and closes the wizard. The
 // wizard-active flag is set while it is open and cleared only by Finish, so that start-up knows
 // whether the first index was built.
-class frmWelcome final : public Dialog, public ProgressWindow {
+class frmWelcome final : public Dialog, public BuildProgress {
   public:
     explicit frmWelcome(WelcomeServices services);
     ~frmWelcome() override;
@@ -45,9 +45,9 @@ class frmWelcome final : public Dialog, public ProgressWindow {
     void DisableTabs();
     void EnableTabs();
 
-    void BeginIndexing(const std::string& animationPath) override;
+    void BuildStarted() override;
     void SetCounter(std::string_view text) override;
-    void EndIndexing() override {}  // Finish tidies the wizard itself
+    void BuildEnded() override {}  // Finish tidies the wizard itself
 
     int CurrentPage() const { return page_; }
 

@@ -5,6 +5,7 @@
 
 #include "platform/Text.h"
 #include "resource.h"
+#include "ui/BuildAnimation.h"
 #include "ui/Dpi.h"
 #include "ui/FocusColors.h"
 #include "ui/Hourglass.h"
@@ -185,10 +186,10 @@ void frmMain::ShowPanel() {
     Repaint();
 }
 
-void frmMain::BeginIndexing(const std::string& animationPath) {
+void frmMain::BuildStarted() {
     SetWindowPos(picPanel.Panel(kProgressPanel), HWND_TOP, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
-    SendMessageW(Animation1, ACM_OPENW, 0, reinterpret_cast<LPARAM>(Widen(animationPath).c_str()));
+    PlayBuildAnimation(Animation1, services_.index.Get().ProgramFolder());
     DisableTabs();
     services_.tray.ChangeIcon(hwnd(), indexingIcon_.get(), kIndexingTip);
 }
@@ -197,8 +198,8 @@ void frmMain::SetCounter(std::string_view text) {
     SetLiveText(lblCounter, text);
 }
 
-void frmMain::EndIndexing() {
-    SendMessageW(Animation1, ACM_OPENW, 0, 0);  // closes the file and stops playing
+void frmMain::BuildEnded() {
+    StopBuildAnimation(Animation1);
     UpdateIndexPanel();  // the panel under the progress shows what the build indexed
     ShowWindow(picPanel.Panel(kProgressPanel), SW_HIDE);
     EnableTabs();

@@ -93,7 +93,7 @@ struct MainServices {
 // shutdown, and the progress of a build), living in the tray. It is the progress window of the
 // builds it starts and the search progress of Go.
 class frmMain final : public Window,
-                      public ProgressWindow,
+                      public BuildProgress,
                       public SearchProgress,
                       public HotkeyTarget {
   public:
@@ -113,9 +113,9 @@ class frmMain final : public Window,
     void DisableTabs();
     void EnableTabs();
 
-    void BeginIndexing(const std::string& animationPath) override;
+    void BuildStarted() override;
     void SetCounter(std::string_view text) override;
-    void EndIndexing() override;
+    void BuildEnded() override;
 
     void Show(int maximum) override;
     void SetValue(int value) override;
