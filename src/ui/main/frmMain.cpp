@@ -89,12 +89,18 @@ void frmMain::CreatePanelControls() {
                                        kIdWord, kWordBoxTwips),
                    hwnd());
     for (const MainDesign::Control& control : MainDesign::Controls()) {
-        this->*control.member = picPanel.AddControl(control.panel, control.className, control.text,
-                                                    control.style, control.id, control.twips);
+        const HWND made = picPanel.AddControl(control.panel, control.className, control.text,
+                                              control.style, control.id, control.twips);
+        if (control.member != nullptr) {
+            this->*control.member = made;
+        }
     }
     for (const MainDesign::Link& link : MainDesign::Links()) {
-        this->*link.member =
+        ctlLinkLabel* made =
             picPanel.AddLink(link.panel, link.id, link.caption, link.left, link.top);
+        if (link.member != nullptr) {
+            this->*link.member = made;
+        }
     }
     // Screen readers name the word box by the label just before it in the tab order.
     SetWindowPos(cboWord.hwnd(), lblEnterWord, 0, 0, 0, 0,

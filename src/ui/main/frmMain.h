@@ -178,29 +178,16 @@ class frmMain final : public Window,
     TabRow tabLabel;
     HWND lblEnterWord = nullptr;
     WordBox cboWord;
-    HWND cmdGo = nullptr;
     HWND lblFile = nullptr;
     HWND ProgressBar1 = nullptr;
     PacedProgress searchProgress_;  // ProgressBar1's pace
-    HWND lblIndexLastUpdated = nullptr;
     HWND lblLastUpdated = nullptr;
     HWND lblUpdateInterval = nullptr;
-    ctlLinkLabel* lnkUpdate = nullptr;
     // What the index holds; with folders left out, the link to "Index every folder" instead.
     HWND lblIndexSummary = nullptr;
     ctlLinkLabel* lnkFoldersLeftOut = nullptr;
-    ctlLinkLabel* lnkGeneralOptions = nullptr;
-    ctlLinkLabel* lnkFileTypes = nullptr;
-    ctlLinkLabel* lnkWords = nullptr;
-    ctlLinkLabel* lnkHelp = nullptr;
-    ctlLinkLabel* lnkQuorin = nullptr;
-    ctlLinkLabel* lnkVeltaro = nullptr;
-    HWND lblShutdown = nullptr;
     HWND Animation1 = nullptr;
-    HWND lblPleaseWait = nullptr;
-    HWND lblFolders = nullptr;
     HWND lblCounter = nullptr;
-    ctlLinkLabel* lnkCancel = nullptr;
     TrayMenu mnuSystray{kIdMenuGo, kIdMenuExit};
     UniqueFont font_;
     UniqueIcon icon_;
