@@ -25,14 +25,14 @@ std::span<const MainDesign::Control> MainDesign::Controls() {
         {nullptr /* lblShutdown */, kExitPanel, WC_STATICW, "Please wait while Quorin shuts down...", SS_CENTER, -1,
          {0, 330, 5280, 225}},
         // The animation's whole frame (96 x 60 pixels at 96 DPI) and three lines of text fit at any DPI.
-        {&frmMain::Animation1, kProgressPanel, ANIMATE_CLASSW, "", ACS_CENTER | ACS_TRANSPARENT | ACS_AUTOPLAY,
+        {nullptr /* Animation1 */, kProgressPanel, ANIMATE_CLASSW, "", ACS_CENTER | ACS_TRANSPARENT | ACS_AUTOPLAY,
          kIdAnimation, {0, 0, 1440, 900}},
         {nullptr /* lblPleaseWait */, kProgressPanel, WC_STATICW,
          "Please wait while Quorin indexes your hard drive. Depending on how much stuff you have, this may take "
          "a few minutes...", 0, -1, {1500, 15, 3800, 675}},
         {nullptr /* lblFolders */, kProgressPanel, WC_STATICW, "# of folders indexed:", SS_NOPREFIX, -1,
          {1500, 720, 1900, 240}},
-        {&frmMain::lblCounter, kProgressPanel, WC_STATICW, "", 0, kIdCounter, {3420, 720, 1000, 240}},
+        {nullptr /* lblCounter */, kProgressPanel, WC_STATICW, "", 0, kIdCounter, {3420, 720, 1000, 240}},
     };
     return kControls;
 }

@@ -5,7 +5,6 @@
 
 #include "platform/Text.h"
 #include "resource.h"
-#include "ui/BuildAnimation.h"
 #include "ui/Dpi.h"
 #include "ui/FocusColors.h"
 #include "ui/Hourglass.h"
@@ -107,6 +106,7 @@ void frmMain::CreatePanelControls() {
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     ShowWindow(ProgressBar1, SW_HIDE);
     ShowWindow(lnkFoldersLeftOut->hwnd(), SW_HIDE);
+    progressPanel_.Attach(picPanel);
 }
 
 HWND frmMain::Control(int id) const {
@@ -193,21 +193,18 @@ void frmMain::ShowPanel() {
 }
 
 void frmMain::BuildStarted() {
-    SetWindowPos(picPanel.Panel(kProgressPanel), HWND_TOP, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
-    PlayBuildAnimation(Animation1, services_.index.Get().ProgramFolder());
+    progressPanel_.Show(services_.index.Get().ProgramFolder());
     DisableTabs();
     services_.tray.ChangeIcon(hwnd(), indexingIcon_.get(), kIndexingTip);
 }
 
 void frmMain::SetCounter(std::string_view text) {
-    SetLiveText(lblCounter, text);
+    progressPanel_.SetCounter(text);
 }
 
 void frmMain::BuildEnded() {
-    StopBuildAnimation(Animation1);
     UpdateIndexPanel();  // the panel under the progress shows what the build indexed
-    ShowWindow(picPanel.Panel(kProgressPanel), SW_HIDE);
+    progressPanel_.Hide();
     EnableTabs();
     services_.tray.ChangeIcon(hwnd(), icon_.get(), kTip);
     UpdateIndexPanel();  // the Index panel may be the one shown under the progress

@@ -27,6 +27,7 @@
 #include "ui/main/MainPanels.h"
 #include "ui/main/MatchesOpener.h"
 #include "ui/main/OptionsOpener.h"
+#include "ui/main/ProgressPanel.h"
 #include "ui/main/RememberedPlace.h"
 #include "ui/main/TrayMenu.h"
 #include "ui/main/WordBox.h"
@@ -186,8 +187,7 @@ class frmMain final : public Window,
     // What the index holds; with folders left out, the link to "Index every folder" instead.
     HWND lblIndexSummary = nullptr;
     ctlLinkLabel* lnkFoldersLeftOut = nullptr;
-    HWND Animation1 = nullptr;
-    HWND lblCounter = nullptr;
+    ProgressPanel progressPanel_;
     TrayMenu mnuSystray{kIdMenuGo, kIdMenuExit};
     UniqueFont font_;
     UniqueIcon icon_;
