@@ -7,12 +7,10 @@
 
 #include "index/IndexProgress.h"
 #include "platform/WinHandles.h"
-#include "platform/registry/clsRegistry.h"
 #include "ui/Dialog.h"
 #include "ui/controls/TabRow.h"
 #include "ui/controls/ctlLinkLabel.h"
-#include "ui/matches/MatchesSort.h"
-#include "ui/matches/ctlIconExtractor.h"
+#include "ui/dialogs/WelcomeFileTypes.h"
 
 namespace quorin {
 
@@ -63,16 +61,9 @@ class frmWelcome final : public Dialog, public BuildProgress {
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
-    struct Row {
-        std::wstring type;
-        std::wstring description;
-        const std::wstring& Text(int column) const;
-    };
-
     void Form_Load();
     void Form_Paint();
     void CreateTabs();
-    void PrepareFileTypesList();
     void tabLabel_Click(int Index);
     void lnkNext_Click();
     void lnkPrevious_Click();
@@ -81,16 +72,11 @@ class frmWelcome final : public Dialog, public BuildProgress {
     void lnkDrives_Click();
     void lnkCancel_Click();
     void lnkFinish_Click();
-    void lvwFileTypes_ColumnClick(int column);
 
     void ShowPage();
     void ShowBlock(int block, bool shown) const;
     void KeepFocusOnAVisibleLink(bool onwardFocused);
     void FillFileTypes();
-    void AddFileType(const std::string& ext);
-    std::string Description(const std::string& ext) const;
-    void SortRows();
-    static int CALLBACK CompareRows(LPARAM first, LPARAM second, LPARAM self);
     void LeaveProgressPage();
 
     WelcomeServices services_;
@@ -100,15 +86,10 @@ class frmWelcome final : public Dialog, public BuildProgress {
     ctlLinkLabel* lnkFinish = nullptr;
     ctlLinkLabel* lnkCancel = nullptr;
     ctlLinkLabel* lnkPrevious = nullptr;
-    HWND lvwFileTypes = nullptr;
     HWND Animation1 = nullptr;
     HWND lblCounter = nullptr;
-    UniqueImageList imlSmall;
     UniqueIcon icon_;
-    ctlIconExtractor ctlIconExtractor1;
-    clsRegistry registry_;
-    std::vector<Row> rows_;
-    MatchesSort sort_;
+    WelcomeFileTypes fileTypes_;
 };
 
 }  // namespace quorin
