@@ -15,7 +15,7 @@
 
 #include "cli/ConsolePrompter.h"
 #include "cli/IdleEventPump.h"
-#include "cli/SilentProgressWindow.h"
+#include "cli/SilentBuildProgress.h"
 #include "index/FolderWalker.h"
 #include "index/IndexSettings.h"
 #include "index/clsIndex.h"
@@ -124,7 +124,7 @@ int Find(const std::string& folder, const std::string& word) {
 
 int Build(const std::string& folder, const std::string& settings, int runs) {
     Engine engine(folder, std::make_unique<IniSettingsStore>(settings));
-    SilentProgressWindow window;
+    SilentBuildProgress window;
     const Timings timings = TimeRuns(runs, [&] { engine.Index().CreateIndex(true, window); });
     PrintTimings(timings, "records", engine.Index().ItemCount());
     return 0;

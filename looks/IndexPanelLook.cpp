@@ -17,11 +17,11 @@
 namespace quorin::test {
 namespace {
 
-class NoProgress final : public ProgressWindow {
+class NoProgress final : public BuildProgress {
   public:
-    void BeginIndexing(const std::string&) override {}
+    void BuildStarted() override {}
     void SetCounter(std::string_view) override {}
-    void EndIndexing() override {}
+    void BuildEnded() override {}
 };
 
 class Look final : public ProgramFixture {

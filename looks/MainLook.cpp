@@ -8,6 +8,7 @@
 
 #include "LookHighContrast.h"
 #include "platform/Path.h"
+#include "platform/Text.h"
 #include "ui/controls/OleColor.h"
 #include "ui/controls/ctlTabLabel.h"
 #include "ui/main/MainFakes.h"
@@ -25,7 +26,10 @@ class Look final : public ProgramFixture {
                                   help, [] { PostQuitMessage(0); }});
         form.Show();
         if (panel == kProgressPanel) {
-            form.BeginIndexing(JoinPath(ExecutableFolder(), "findfile.avi"));
+            // The animation plays from the program folder, as in the installed program.
+            CopyFileW(Widen(JoinPath(ExecutableFolder(), "findfile.avi")).c_str(),
+                      Widen(JoinPath(program.Path(), "findfile.avi")).c_str(), FALSE);
+            form.BuildStarted();
             form.SetCounter("895");
             return MessagePump::Run();
         }

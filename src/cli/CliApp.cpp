@@ -10,7 +10,7 @@
 #include "cli/ConsolePrompter.h"
 #include "cli/DefaultSettings.h"
 #include "cli/IdleEventPump.h"
-#include "cli/SilentProgressWindow.h"
+#include "cli/SilentBuildProgress.h"
 #include "cli/UsageError.h"
 #include "index/clsIndex.h"
 #include "platform/FileSystem.h"
@@ -47,7 +47,7 @@ std::string FullPath(const clsIndex& index, const clsItem& item) {
 }
 
 void Build(clsIndex& index, std::ostream& out) {
-    SilentProgressWindow window;
+    SilentBuildProgress window;
     const auto start = std::chrono::steady_clock::now();
     index.CreateIndex(true, window);
     const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;

@@ -1,20 +1,19 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
 namespace quorin {
 
-// The window a build reports to: the main window (progress panel, tabs, tray tip) or the
-// first-run wizard (which tidies its own window, so its EndIndexing does nothing).
-class ProgressWindow {
+// What a build reports as it goes: to the main window, to the first-run wizard, or to nobody on
+// the console. How it is shown is the receiver's business.
+class BuildProgress {
   public:
-    virtual ~ProgressWindow() = default;
-    // Show the progress, play the animation file, disable the tabs.
-    virtual void BeginIndexing(const std::string& animationPath) = 0;
+    virtual ~BuildProgress() = default;
+    virtual void BuildStarted() = 0;
+    // The folders walked so far, or what the build is doing now.
     virtual void SetCounter(std::string_view text) = 0;
-    // Hide the progress and enable the tabs again.
-    virtual void EndIndexing() = 0;
+    // Called however the build ends: completed, cancelled or failed.
+    virtual void BuildEnded() = 0;
 };
 
 // The main window's search progress bar, shown while FindMatch scans the index.

@@ -16,7 +16,6 @@ namespace {
 
 constexpr std::string_view kIndexFile = "index.txt";
 constexpr std::string_view kWordsFile = "words.txt";
-constexpr std::string_view kAnimationFile = "findfile.avi";
 // Yielding costs time, so a build the user watches reports every fifth folder only.
 constexpr int32_t kWatchedCounterStep = 5;
 
@@ -41,12 +40,12 @@ clsIndex::clsIndex(IndexServices services) : services_(std::move(services)) {
     LoadWords();
 }
 
-void clsIndex::CreateIndex(bool Silent, ProgressWindow& ParentForm) {
+void clsIndex::CreateIndex(bool Silent, BuildProgress& ParentForm) {
     if (indexing_) {
         return;
     }
     const IndexingFlag flag(indexing_);
-    ParentForm.BeginIndexing(ProgramFile(kAnimationFile));
+    ParentForm.BuildStarted();
     try {
         // The walk fills tables of its own and the engine takes them only when it completes:
         // while the build yields, every folder number handed out before (the words', a list of
@@ -59,13 +58,13 @@ void clsIndex::CreateIndex(bool Silent, ProgressWindow& ParentForm) {
             ReportCancel();
         }
     } catch (...) {
-        ParentForm.EndIndexing();
+        ParentForm.BuildEnded();
         throw;
     }
-    ParentForm.EndIndexing();
+    ParentForm.BuildEnded();
 }
 
-std::optional<int32_t> clsIndex::WalkDrives(bool Silent, ProgressWindow& ParentForm,
+std::optional<int32_t> clsIndex::WalkDrives(bool Silent, BuildProgress& ParentForm,
                                             FolderTable& folders, IndexItems& items) {
     for (int32_t drive = 0; drive < drives_.count; ++drive) {
         folders.Append(drives_.slots[static_cast<size_t>(drive)]);
@@ -88,7 +87,7 @@ std::optional<int32_t> clsIndex::WalkDrives(bool Silent, ProgressWindow& ParentF
     return walker.FoldersLeftOut();
 }
 
-void clsIndex::SaveIndex(ProgressWindow& ParentForm, FolderTable folders,
+void clsIndex::SaveIndex(BuildProgress& ParentForm, FolderTable folders,
                          std::shared_ptr<IndexItems> items, int32_t foldersLeftOut) {
     ParentForm.SetCounter("Saving...");
     services_.events.DoEvents();

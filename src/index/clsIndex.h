@@ -56,9 +56,10 @@ class clsIndex {
     // The folders the 5001-slot table left out of the last build; nothing until a build of
     // this session completes, since "index.txt" does not record it.
     std::optional<int32_t> FoldersLeftOut() const { return foldersLeftOut_; }
+    const std::string& ProgramFolder() const { return services_.programFolder; }
 
     // Rebuilds the index, yielding to events as it goes. Returns at once while a build runs.
-    void CreateIndex(bool Silent, ProgressWindow& ParentForm);
+    void CreateIndex(bool Silent, BuildProgress& ParentForm);
     // Takes effect after the folder being walked.
     void Cancel() { cancelled_ = true; }
 
@@ -77,9 +78,9 @@ class clsIndex {
 
   private:
     // The number of folders left out; nothing when cancelled.
-    std::optional<int32_t> WalkDrives(bool Silent, ProgressWindow& ParentForm, FolderTable& folders,
+    std::optional<int32_t> WalkDrives(bool Silent, BuildProgress& ParentForm, FolderTable& folders,
                                       IndexItems& items);
-    void SaveIndex(ProgressWindow& ParentForm, FolderTable folders,
+    void SaveIndex(BuildProgress& ParentForm, FolderTable folders,
                    std::shared_ptr<IndexItems> items, int32_t foldersLeftOut);
     void ReportCancel();
     void ReadIndex();

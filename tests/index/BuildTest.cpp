@@ -23,13 +23,11 @@ using Paths = std::vector<std::string>;
 
 // The window, message boxes and event loop of a build, logged in the order the engine uses
 // them; onEvents lets a test act where a window's handlers would run.
-class ScriptedUi final : public ProgressWindow, public Prompter, public EventPump {
+class ScriptedUi final : public BuildProgress, public Prompter, public EventPump {
   public:
-    void BeginIndexing(const std::string& animation) override {
-        log.push_back("begin " + animation);
-    }
+    void BuildStarted() override { log.push_back("begin"); }
     void SetCounter(std::string_view text) override { log.emplace_back(text); }
-    void EndIndexing() override { log.push_back("end"); }
+    void BuildEnded() override { log.push_back("end"); }
     PromptAnswer Ask(std::string_view title, std::string_view text, PromptButtons buttons,
                      PromptIcon icon) override {
         prompts.push_back(std::string(title) + "|" + std::string(text));
@@ -239,8 +237,8 @@ TEST_F(EngineTest, CounterShowsEveryFolderWhenSilentAndEveryFifthOtherwise) {
     index->CreateIndex(false, ui);
     EXPECT_TRUE(indexingSeen);
     EXPECT_TRUE(other.log.empty());
-    EXPECT_EQ(ui.log, (Paths{"begin " + ProgramFile("findfile.avi"), "0", "events", "5", "events",
-                             "10", "events", "Saving...", "events", "end"}));
+    EXPECT_EQ(ui.log, (Paths{"begin", "0", "events", "5", "events", "10", "events", "Saving...",
+                             "events", "end"}));
 
     ui.log.clear();
     index->CreateIndex(true, ui);

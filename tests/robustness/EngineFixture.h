@@ -9,7 +9,7 @@
 
 #include "cli/ConsolePrompter.h"
 #include "cli/IdleEventPump.h"
-#include "cli/SilentProgressWindow.h"
+#include "cli/SilentBuildProgress.h"
 #include "index/clsIndex.h"
 #include "platform/Clock.h"
 #include "platform/MemorySettingsStore.h"
@@ -42,7 +42,7 @@ class EngineFixture : public ::testing::Test {
     test::TestClock clock;  // moved on so that every build writes a different first line
     ConsolePrompter prompter{std::cerr};
     IdleEventPump events;
-    SilentProgressWindow window;
+    SilentBuildProgress window;
 };
 
 }  // namespace quorin

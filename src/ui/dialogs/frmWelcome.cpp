@@ -9,16 +9,13 @@
 #include "platform/Prompter.h"
 #include "platform/Text.h"
 #include "resource.h"
+#include "ui/BuildAnimation.h"
 #include "ui/Dpi.h"
 #include "ui/Hourglass.h"
-#include "ui/ListViewColumn.h"
 #include "ui/ProgramIcon.h"
-#include "ui/SmallIconList.h"
 #include "ui/TabKeys.h"
 #include "ui/TextFlow.h"
 #include "ui/WindowText.h"
-#include "ui/dialogs/FileTypeLists.h"
-#include "ui/dialogs/KnownExtensions.h"
 #include "ui/help/Help.h"
 #include "ui/main/OptionsOpener.h"
 
@@ -28,8 +25,6 @@ namespace {
 
 constexpr int kProgressBlock = kWelcomePageCount;  // the progress page, after the four pages
 constexpr int kBlockSize = 10;
-constexpr int kTypeColumnPixels = 80;
-constexpr int kDescriptionColumnPixels = 330;
 
 constexpr std::array<std::string_view, kWelcomePageCount> kTabCaptions = {"Welcome", "File Types",
                                                                           "Drives", "Index"};
@@ -81,7 +76,6 @@ void frmWelcome::Form_Load() {
     lnkFinish = ctlLinkLabel::From(Item(IDC_WELCOME_FINISH));
     lnkCancel = ctlLinkLabel::From(Item(IDC_WELCOME_CANCEL));
     lnkPrevious = ctlLinkLabel::From(Item(IDC_WELCOME_PREVIOUS));
-    lvwFileTypes = Item(IDC_WELCOME_FILETYPES);
     Animation1 = Item(IDC_WELCOME_ANIMATION);
     lblCounter = Item(IDC_WELCOME_COUNTER);
 
@@ -92,7 +86,7 @@ void frmWelcome::Form_Load() {
     PlaceAfterText(Item(IDC_WELCOME_DRIVES_TEXT), Item(IDC_WELCOME_DRIVES));
     SpanClientWidth(Item(IDC_WELCOME_SHAPE1));
     CreateTabs();
-    PrepareFileTypesList();
+    fileTypes_.Attach(Item(IDC_WELCOME_FILETYPES));
     for (int block = 1; block <= kProgressBlock; ++block) {
         ShowBlock(block, false);
     }
@@ -110,16 +104,7 @@ void frmWelcome::CreateTabs() {
     tabLabel.PlaceInRow(0, 0);
 }
 
-void frmWelcome::PrepareFileTypesList() {
-    const int dpi = WindowDpi(hwnd());
-    imlSmall = SmallIconList(dpi);
-    ListView_SetImageList(lvwFileTypes, imlSmall.get(), LVSIL_SMALL);
-    ListView_SetExtendedListViewStyle(lvwFileTypes, LVS_EX_FULLROWSELECT);
-    AddListColumn(lvwFileTypes, 0, L"Type", ScaleForDpi(kTypeColumnPixels, dpi));
-    AddListColumn(lvwFileTypes, 1, L"Description", ScaleForDpi(kDescriptionColumnPixels, dpi));
-}
-
-// The band as tall as the tabs.
+// The band behind the tab row, in the colour of the unselected tabs.
 void frmWelcome::Form_Paint() {
     RECT tab{};
     GetWindowRect(tabLabel[0].hwnd(), &tab);
@@ -158,8 +143,8 @@ void frmWelcome::EnableTabs() {
     tabLabel.SetEnabled(true);
 }
 
-void frmWelcome::BeginIndexing(const std::string& animationPath) {
-    SendMessageW(Animation1, ACM_OPENW, 0, reinterpret_cast<LPARAM>(Widen(animationPath).c_str()));
+void frmWelcome::BuildStarted() {
+    PlayBuildAnimation(Animation1, services_.index.ProgramFolder());
     DisableTabs();
 }
 
@@ -232,8 +217,8 @@ void frmWelcome::OnCommand(int id, int code, HWND) {
 }
 
 LRESULT frmWelcome::OnNotify(const NMHDR& header) {
-    if (header.hwndFrom == lvwFileTypes && header.code == LVN_COLUMNCLICK) {
-        lvwFileTypes_ColumnClick(reinterpret_cast<const NMLISTVIEW&>(header).iSubItem);
+    if (header.hwndFrom == fileTypes_.hwnd() && header.code == LVN_COLUMNCLICK) {
+        fileTypes_.ColumnClick(reinterpret_cast<const NMLISTVIEW&>(header).iSubItem);
     }
     return 0;
 }
@@ -294,17 +279,12 @@ void frmWelcome::lnkFinish_Click() {
 }
 
 void frmWelcome::LeaveProgressPage() {
-    SendMessageW(Animation1, ACM_OPENW, 0, 0);
+    StopBuildAnimation(Animation1);
     ShowBlock(kProgressBlock, false);
     lnkFinish->SetEnabled(true);
     lnkCancel->SetEnabled(true);
     EnableTabs();
     ShowPage();
-}
-
-void frmWelcome::lvwFileTypes_ColumnClick(int column) {
-    sort_.ColumnClick(column);
-    SortRows();
 }
 
 void frmWelcome::ShowPage() {
@@ -348,60 +328,10 @@ void frmWelcome::KeepFocusOnAVisibleLink(bool onwardFocused) {
     SendMessageW(hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(onward->hwnd()), TRUE);
 }
 
-// The types the engine's filter lists, whichever its mode, as the classes root names them.
+// The types the engine's filter lists, whichever its mode.
 void frmWelcome::FillFileTypes() {
     const Hourglass busy;
-    ListView_DeleteAllItems(lvwFileTypes);
-    ImageList_RemoveAll(imlSmall.get());
-    rows_.clear();
-    ctlIconExtractor1.ImageListSmall(imlSmall.get());
-    const std::string filter = services_.index.Filter;
-    for (const std::string& ext : KnownExtensions(registry_)) {
-        if (FilterLists(filter, ext)) {
-            AddFileType(ext);
-        }
-    }
-    if (sort_.Sorted) {
-        SortRows();
-    }
-}
-
-void frmWelcome::AddFileType(const std::string& ext) {
-    const std::optional<int> image = ctlIconExtractor1.RetrieveExtIcon(ext);
-    Row& added = rows_.emplace_back(Row{Widen(ext), Widen(Description(ext))});
-    LVITEMW row{};
-    row.mask = LVIF_TEXT | LVIF_IMAGE | LVIF_PARAM;
-    row.iItem = ListView_GetItemCount(lvwFileTypes);
-    row.pszText = added.type.data();
-    row.iImage = image.value_or(I_IMAGENONE);
-    row.lParam = static_cast<LPARAM>(rows_.size() - 1);
-    const int inserted = ListView_InsertItem(lvwFileTypes, &row);
-    ListView_SetItemText(lvwFileTypes, inserted, 1, added.description.data());
-}
-
-// The extension's key names its class; the class's default value describes it.
-std::string frmWelcome::Description(const std::string& ext) const {
-    const std::string fileType = registry_.QueryValue(HKEY_CLASSES_ROOT, ext, "").AsText();
-    if (fileType.empty()) {
-        return {};
-    }
-    return registry_.QueryValue(HKEY_CLASSES_ROOT, fileType, "").AsText();
-}
-
-const std::wstring& frmWelcome::Row::Text(int column) const {
-    return column == 0 ? type : description;
-}
-
-int CALLBACK frmWelcome::CompareRows(LPARAM first, LPARAM second, LPARAM self) {
-    const auto& form = *reinterpret_cast<const frmWelcome*>(self);
-    const int column = form.sort_.SortKey;
-    const int order = lstrcmpiW(form.rows_.at(static_cast<size_t>(first)).Text(column).c_str(),
-                                form.rows_.at(static_cast<size_t>(second)).Text(column).c_str());
-    return form.sort_.SortOrder == MatchesSortOrder::Descending ? -order : order;
-}
-
-void frmWelcome::SortRows() {
-    ListView_SortItems(lvwFileTypes, &CompareRows, reinterpret_cast<LPARAM>(this));
+    fileTypes_.Fill(services_.index.Filter);
 }
 
 }  // namespace quorin

@@ -7,12 +7,10 @@
 
 #include "index/IndexProgress.h"
 #include "platform/WinHandles.h"
-#include "platform/registry/clsRegistry.h"
 #include "ui/Dialog.h"
 #include "ui/controls/TabRow.h"
 #include "ui/controls/ctlLinkLabel.h"
-#include "ui/matches/MatchesSort.h"
-#include "ui/matches/ctlIconExtractor.h"
+#include "ui/dialogs/WelcomeFileTypes.h"
 
 namespace quorin {
 
@@ -34,10 +32,9 @@ inline constexpr int kWelcomePageCount = 4;
 // "Welcome to Quorin": the first-run wizard. Four pages (welcome, file types, drives, index)
 // reached by their tabs and by "< Previous" and "Next >"; what is indexed is changed through the
 // Options dialog; Ctrl+Tab and Ctrl+Shift+Tab go round the pages as the tabs do. Finish builds the
-// first index on the progress page and closes the wizard. The
-// wizard-active flag is set while it is open and cleared only by Finish, so that start-up knows
-// whether the first index was built.
-class frmWelcome final : public Dialog, public ProgressWindow {
+// first index on the progress page and closes the wizard with OK, the one way start-up knows that
+// the first index was built.
+class frmWelcome final : public Dialog, public BuildProgress {
   public:
     explicit frmWelcome(WelcomeServices services);
     ~frmWelcome() override;
@@ -45,9 +42,9 @@ class frmWelcome final : public Dialog, public ProgressWindow {
     void DisableTabs();
     void EnableTabs();
 
-    void BeginIndexing(const std::string& animationPath) override;
+    void BuildStarted() override;
     void SetCounter(std::string_view text) override;
-    void EndIndexing() override {}  // Finish tidies the wizard itself
+    void BuildEnded() override {}  // Finish tidies the wizard itself
 
     int CurrentPage() const { return page_; }
 
@@ -63,16 +60,9 @@ class frmWelcome final : public Dialog, public ProgressWindow {
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
-    struct Row {
-        std::wstring type;
-        std::wstring description;
-        const std::wstring& Text(int column) const;
-    };
-
     void Form_Load();
     void Form_Paint();
     void CreateTabs();
-    void PrepareFileTypesList();
     void tabLabel_Click(int Index);
     void lnkNext_Click();
     void lnkPrevious_Click();
@@ -81,16 +71,11 @@ class frmWelcome final : public Dialog, public ProgressWindow {
     void lnkDrives_Click();
     void lnkCancel_Click();
     void lnkFinish_Click();
-    void lvwFileTypes_ColumnClick(int column);
 
     void ShowPage();
     void ShowBlock(int block, bool shown) const;
     void KeepFocusOnAVisibleLink(bool onwardFocused);
     void FillFileTypes();
-    void AddFileType(const std::string& ext);
-    std::string Description(const std::string& ext) const;
-    void SortRows();
-    static int CALLBACK CompareRows(LPARAM first, LPARAM second, LPARAM self);
     void LeaveProgressPage();
 
     WelcomeServices services_;
@@ -100,15 +85,10 @@ class frmWelcome final : public Dialog, public ProgressWindow {
     ctlLinkLabel* lnkFinish = nullptr;
     ctlLinkLabel* lnkCancel = nullptr;
     ctlLinkLabel* lnkPrevious = nullptr;
-    HWND lvwFileTypes = nullptr;
     HWND Animation1 = nullptr;
     HWND lblCounter = nullptr;
-    UniqueImageList imlSmall;
     UniqueIcon icon_;
-    ctlIconExtractor ctlIconExtractor1;
-    clsRegistry registry_;
-    std::vector<Row> rows_;
-    MatchesSort sort_;
+    WelcomeFileTypes fileTypes_;
 };
 
 }  // namespace quorin

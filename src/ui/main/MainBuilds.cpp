@@ -4,7 +4,7 @@
 
 namespace quorin {
 
-void MainBuilds::Run(bool Silent, ProgressWindow& window) {
+void MainBuilds::Run(bool Silent, BuildProgress& window) {
     clsIndex& index = index_.Get();
     if (index.Indexing()) {
         return;  // the build that runs is the one to finish first

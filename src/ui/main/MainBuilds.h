@@ -15,7 +15,7 @@ class MainBuilds {
     MainBuilds(LazyIndex& index, std::function<void()> unload)
         : index_(index), unload_(std::move(unload)) {}
 
-    void Run(bool Silent, ProgressWindow& window);
+    void Run(bool Silent, BuildProgress& window);
     // The session ends: unloads at once, or after the build that runs.
     void EndSession();
 

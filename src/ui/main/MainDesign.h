@@ -14,7 +14,7 @@ class frmMain;
 // twips. The word box, with its own behaviour, is made by the window itself.
 struct MainDesign {
     struct Control {
-        HWND frmMain::*member;
+        HWND frmMain::*member;  // none where the window never touches the control
         int panel;
         const wchar_t* className;
         std::string_view text;
@@ -23,7 +23,7 @@ struct MainDesign {
         RECT twips;  // left, top, width, height
     };
     struct Link {
-        ctlLinkLabel* frmMain::*member;
+        ctlLinkLabel* frmMain::*member;  // none where the window only hears its clicks
         int panel;
         int id;
         std::string_view caption;

@@ -87,18 +87,25 @@ void frmMain::CreatePanelControls() {
                                        kIdWord, kWordBoxTwips),
                    hwnd());
     for (const MainDesign::Control& control : MainDesign::Controls()) {
-        this->*control.member = picPanel.AddControl(control.panel, control.className, control.text,
-                                                    control.style, control.id, control.twips);
+        const HWND made = picPanel.AddControl(control.panel, control.className, control.text,
+                                              control.style, control.id, control.twips);
+        if (control.member != nullptr) {
+            this->*control.member = made;
+        }
     }
     for (const MainDesign::Link& link : MainDesign::Links()) {
-        this->*link.member =
+        ctlLinkLabel* made =
             picPanel.AddLink(link.panel, link.id, link.caption, link.left, link.top);
+        if (link.member != nullptr) {
+            this->*link.member = made;
+        }
     }
     // Screen readers name the word box by the label just before it in the tab order.
     SetWindowPos(cboWord.hwnd(), lblEnterWord, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     ShowWindow(ProgressBar1, SW_HIDE);
     ShowWindow(lnkFoldersLeftOut->hwnd(), SW_HIDE);
+    progressPanel_.Attach(picPanel);
 }
 
 HWND frmMain::Control(int id) const {
@@ -184,22 +191,19 @@ void frmMain::ShowPanel() {
     Repaint();
 }
 
-void frmMain::BeginIndexing(const std::string& animationPath) {
-    SetWindowPos(picPanel.Panel(kProgressPanel), HWND_TOP, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
-    SendMessageW(Animation1, ACM_OPENW, 0, reinterpret_cast<LPARAM>(Widen(animationPath).c_str()));
+void frmMain::BuildStarted() {
+    progressPanel_.Show(services_.index.Get().ProgramFolder());
     DisableTabs();
     services_.tray.ChangeIcon(hwnd(), indexingIcon_.get(), kIndexingTip);
 }
 
 void frmMain::SetCounter(std::string_view text) {
-    SetLiveText(lblCounter, text);
+    progressPanel_.SetCounter(text);
 }
 
-void frmMain::EndIndexing() {
-    SendMessageW(Animation1, ACM_OPENW, 0, 0);  // closes the file and stops playing
+void frmMain::BuildEnded() {
     UpdateIndexPanel();  // the panel under the progress shows what the build indexed
-    ShowWindow(picPanel.Panel(kProgressPanel), SW_HIDE);
+    progressPanel_.Hide();
     EnableTabs();
     services_.tray.ChangeIcon(hwnd(), icon_.get(), kTip);
     UpdateIndexPanel();  // the Index panel may be the one shown under the progress

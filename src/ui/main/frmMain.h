@@ -27,6 +27,7 @@
 #include "ui/main/MainPanels.h"
 #include "ui/main/MatchesOpener.h"
 #include "ui/main/OptionsOpener.h"
+#include "ui/main/ProgressPanel.h"
 #include "ui/main/RememberedPlace.h"
 #include "ui/main/TrayMenu.h"
 #include "ui/main/WordBox.h"
@@ -93,7 +94,7 @@ struct MainServices {
 // shutdown, and the progress of a build), living in the tray. It is the progress window of the
 // builds it starts and the search progress of Go.
 class frmMain final : public Window,
-                      public ProgressWindow,
+                      public BuildProgress,
                       public SearchProgress,
                       public HotkeyTarget {
   public:
@@ -113,9 +114,9 @@ class frmMain final : public Window,
     void DisableTabs();
     void EnableTabs();
 
-    void BeginIndexing(const std::string& animationPath) override;
+    void BuildStarted() override;
     void SetCounter(std::string_view text) override;
-    void EndIndexing() override;
+    void BuildEnded() override;
 
     void Show(int maximum) override;
     void SetValue(int value) override;
@@ -178,29 +179,15 @@ class frmMain final : public Window,
     TabRow tabLabel;
     HWND lblEnterWord = nullptr;
     WordBox cboWord;
-    HWND cmdGo = nullptr;
     HWND lblFile = nullptr;
     HWND ProgressBar1 = nullptr;
     PacedProgress searchProgress_;  // ProgressBar1's pace
-    HWND lblIndexLastUpdated = nullptr;
     HWND lblLastUpdated = nullptr;
     HWND lblUpdateInterval = nullptr;
-    ctlLinkLabel* lnkUpdate = nullptr;
     // What the index holds; with folders left out, the link to "Index every folder" instead.
     HWND lblIndexSummary = nullptr;
     ctlLinkLabel* lnkFoldersLeftOut = nullptr;
-    ctlLinkLabel* lnkGeneralOptions = nullptr;
-    ctlLinkLabel* lnkFileTypes = nullptr;
-    ctlLinkLabel* lnkWords = nullptr;
-    ctlLinkLabel* lnkHelp = nullptr;
-    ctlLinkLabel* lnkQuorin = nullptr;
-    ctlLinkLabel* lnkVeltaro = nullptr;
-    HWND lblShutdown = nullptr;
-    HWND Animation1 = nullptr;
-    HWND lblPleaseWait = nullptr;
-    HWND lblFolders = nullptr;
-    HWND lblCounter = nullptr;
-    ctlLinkLabel* lnkCancel = nullptr;
+    ProgressPanel progressPanel_;
     TrayMenu mnuSystray{kIdMenuGo, kIdMenuExit};
     UniqueFont font_;
     UniqueIcon icon_;

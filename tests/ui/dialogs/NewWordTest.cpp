@@ -2,7 +2,7 @@
 
 #include "DialogTestHelpers.h"
 #include "NewWordDialog.h"
-#include "cli/SilentProgressWindow.h"
+#include "cli/SilentBuildProgress.h"
 #include "platform/Path.h"
 #include "platform/TextFile.h"
 #include "support/ReaderNames.h"
@@ -66,7 +66,7 @@ TEST_F(NewWordTest, RefusesAnEmptyWordABadFileAndAnAssignedWordAndKeepsTheFocusI
 }
 
 TEST_F(NewWordTest, AssignsTheWordAsTypedToTheFileAndCloses) {
-    SilentProgressWindow progress;
+    SilentBuildProgress progress;
     index.Get().CreateIndex(true, progress);
     Open();
     Type(IDC_NEWWORD_WORD, " my plan ");

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "cli/SilentProgressWindow.h"
+#include "cli/SilentBuildProgress.h"
 #include "platform/Path.h"
 #include "ui/main/GoCommand.h"
 #include "ui/main/MainFakes.h"
@@ -21,7 +21,7 @@ class GoCommandTest : public ProgramFixture {
         tree.WriteFile("budget 2026.xls", "");
         tree.WriteFile("docs\\budget notes.txt", "");
         tree.WriteFile("docs\\plan.txt", "");
-        SilentProgressWindow window;
+        SilentBuildProgress window;
         index.Get().CreateIndex(true, window);
     }
     GoAction Go(std::string_view word) { return DecideGo(index.Get(), word, progress); }

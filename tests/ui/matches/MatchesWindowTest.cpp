@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "cli/SilentProgressWindow.h"
+#include "cli/SilentBuildProgress.h"
 #include "index/clsIndex.h"
 #include "platform/Clock.h"
 #include "platform/MemorySettingsStore.h"
@@ -229,7 +229,7 @@ TEST_F(MatchesWindowTest, AWordAssignedAfterARebuildGoesToTheFolderItsRowShowed)
     settings_.Save("Index", "Drive0", drive.Path());
     settings_.Save("Index", "Drive1", "C:\\Music");
     index_->UpdateSettings();
-    SilentProgressWindow progress;
+    SilentBuildProgress progress;
     index_->CreateIndex(true, progress);
     ASSERT_EQ(index_->GetDirectory("C:\\Music"), 1);
 

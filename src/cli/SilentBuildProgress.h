@@ -5,11 +5,11 @@
 namespace quorin {
 
 // A build on the console shows no progress; its summary is printed at the end.
-class SilentProgressWindow final : public ProgressWindow {
+class SilentBuildProgress final : public BuildProgress {
   public:
-    void BeginIndexing(const std::string& /*animationPath*/) override {}
+    void BuildStarted() override {}
     void SetCounter(std::string_view /*text*/) override {}
-    void EndIndexing() override {}
+    void BuildEnded() override {}
 };
 
 }  // namespace quorin
