@@ -102,7 +102,8 @@ class WelcomeTest : public ProgramFixture {
     frmWelcome wizard{WelcomeServices{index.Get(), prompter, options, help}};
 };
 
-TEST_F(WelcomeTest, PagesGoInOrderWithTheirLinksShownAsThePageAllows) {
+TEST_F(WelcomeTest, PagesLinksAndFileTypesThenFinishBuildsOnTheProgressPageAndCloses) {
+    tree.WriteFile("sub\\plan.txt", "x");
     Open();
     EXPECT_EQ(WindowText(wizard.hwnd()), "Welcome to Quorin");
     EXPECT_EQ(UnnamedControls(wizard.hwnd()), std::vector<std::string>{});
@@ -150,63 +151,32 @@ TEST_F(WelcomeTest, PagesGoInOrderWithTheirLinksShownAsThePageAllows) {
     ClickTab(3);
     EXPECT_EQ(PageShown(), 3);
     EXPECT_TRUE(Shown(IDC_WELCOME_FINISH));
-}
 
-TEST_F(WelcomeTest, EnterGoesOnEscapeCancelsAndTheFocusedLinkTakesEnterAndSpace) {
-    Open();
-    EXPECT_EQ(GetFocus(), Field(IDC_WELCOME_NEXT)) << "Enter presses \"Next >\"";
-    PressKey(VK_RETURN);
-    PressKey(VK_RETURN);
-    PressKey(VK_RETURN);
-    EXPECT_EQ(PageShown(), 3);
-    EXPECT_EQ(GetFocus(), Field(IDC_WELCOME_FINISH)) << "the focus follows Next to Finish";
+    EXPECT_EQ(SortedRows(),
+              (std::vector<Row>{{".wzb", "A bare type", false}, {".wzt", "Wizard text", true}}))
+        << "descriptions, and no icon where there is none";
+    // A column click sorts by it, a second one turns the order, a new column is ascending.
+    for (const auto& [column, first] : {std::pair{1, ".wzb"}, {1, ".wzt"}, {0, ".wzb"}}) {
+        ClickColumn(column);
+        EXPECT_EQ(Rows().at(0).type, first) << column;
+    }
+    options.onModal = [&] {
+        settings.Save("Index", "Filter", ".WZQ .WZB ");
+        index.Get().UpdateSettings();
+    };
+    Click(IDC_WELCOME_CHANGE_FILETYPES);
+    EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes}));
+    EXPECT_EQ(options.modalOwners, (std::vector<HWND>{wizard.hwnd()}));
+    EXPECT_EQ(SortedRows(), (std::vector<Row>{{".wzb", "A bare type", false},
+                                              {".wzq", "Not in the filter", true}}));
 
-    prompter.answers = {PromptAnswer::No};
-    PressKey(VK_ESCAPE);
-    ASSERT_EQ(prompter.boxes.size(), 1u);
-    EXPECT_EQ(prompter.boxes[0].title, "Confirm cancel");
+    options.onModal = nullptr;
+    EXPECT_EQ(WindowText(Field(IDC_WELCOME_DRIVES)), "click here.");
+    Click(IDC_WELCOME_DRIVES);
+    EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes, kOptionsGeneral}));
+    Click(IDC_WELCOME_MORE);
+    EXPECT_EQ(help.topics, (std::vector<int32_t>{20}));
 
-    PressKey(VK_TAB, {VK_CONTROL});
-    EXPECT_EQ(PageShown(), 0) << "Ctrl+Tab goes round";
-    PressKey(VK_TAB, {VK_CONTROL, VK_SHIFT});
-    EXPECT_EQ(PageShown(), 3) << "and back with Shift";
-
-    ClickTab(0);
-    PressKey(VK_TAB);
-    PressKey(VK_TAB);
-    EXPECT_EQ(GetFocus(), Field(IDC_WELCOME_MORE)) << "Tab skips the disabled \"< Previous\"";
-    PressKey(VK_RETURN);
-    PressKey(VK_SPACE);
-    EXPECT_EQ(help.topics, (std::vector<int32_t>{20, 20}));
-    EXPECT_EQ(PageShown(), 0) << "Enter went to the focused link, not to Next";
-}
-
-TEST_F(WelcomeTest, CancelAsksAndNoStaysOnThePageWhileYesEndsTheWizardStillPending) {
-    Open();
-    Click(IDC_WELCOME_NEXT);
-    Click(IDC_WELCOME_NEXT);
-    prompter.answers = {PromptAnswer::No, PromptAnswer::Yes};
-    Click(IDC_WELCOME_CANCEL);
-    ASSERT_EQ(prompter.boxes.size(), 1u);
-    EXPECT_EQ(prompter.boxes[0].text,
-              "Are you sure you want to cancel? Quorin will not run until you complete this "
-              "configuration wizard.");
-    EXPECT_EQ(prompter.boxes[0].buttons, PromptButtons::YesNo);
-    EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Question);
-    ASSERT_TRUE(IsWindow(wizard.hwnd()));
-    EXPECT_EQ(PageShown(), 2);
-
-    Click(IDC_WELCOME_CANCEL);
-    EXPECT_FALSE(IsWindow(wizard.hwnd()));
-    EXPECT_EQ(wizard.Result(), IDCANCEL);
-    EXPECT_EQ(help.closes, 1) << "help goes with the wizard";
-    EXPECT_FALSE(std::filesystem::exists(JoinPath(program.Path(), "index.txt")));
-}
-
-TEST_F(WelcomeTest, FinishBuildsOnTheProgressPageThenCloses) {
-    tree.WriteFile("sub\\plan.txt", "x");
-    Open();
-    ClickTab(3);
     bool progressShown = false;
     bool linksHeld = false;
     bool tabsDisabled = false;
@@ -234,32 +204,53 @@ TEST_F(WelcomeTest, FinishBuildsOnTheProgressPageThenCloses) {
     EXPECT_TRUE(prompter.boxes.empty());
 }
 
-TEST_F(WelcomeTest, ListsTheFilterTypesAndOptionsRefillItAndDrivesOpenGeneral) {
+TEST_F(WelcomeTest, KeysGoOnAndCancelAsksWhereNoStaysAndYesEndsTheWizardStillPending) {
     Open();
-    EXPECT_EQ(SortedRows(),
-              (std::vector<Row>{{".wzb", "A bare type", false}, {".wzt", "Wizard text", true}}))
-        << "descriptions, and no icon where there is none";
-    // A column click sorts by it, a second one turns the order, a new column is ascending.
-    for (const auto& [column, first] : {std::pair{1, ".wzb"}, {1, ".wzt"}, {0, ".wzb"}}) {
-        ClickColumn(column);
-        EXPECT_EQ(Rows().at(0).type, first) << column;
-    }
-    options.onModal = [&] {
-        settings.Save("Index", "Filter", ".WZQ .WZB ");
-        index.Get().UpdateSettings();
-    };
-    Click(IDC_WELCOME_CHANGE_FILETYPES);
-    EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes}));
-    EXPECT_EQ(options.modalOwners, (std::vector<HWND>{wizard.hwnd()}));
-    EXPECT_EQ(SortedRows(), (std::vector<Row>{{".wzb", "A bare type", false},
-                                              {".wzq", "Not in the filter", true}}));
+    EXPECT_EQ(GetFocus(), Field(IDC_WELCOME_NEXT)) << "Enter presses \"Next >\"";
+    PressKey(VK_RETURN);
+    PressKey(VK_RETURN);
+    PressKey(VK_RETURN);
+    EXPECT_EQ(PageShown(), 3);
+    EXPECT_EQ(GetFocus(), Field(IDC_WELCOME_FINISH)) << "the focus follows Next to Finish";
 
-    options.onModal = nullptr;
-    EXPECT_EQ(WindowText(Field(IDC_WELCOME_DRIVES)), "click here.");
-    Click(IDC_WELCOME_DRIVES);
-    EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes, kOptionsGeneral}));
-    Click(IDC_WELCOME_MORE);
-    EXPECT_EQ(help.topics, (std::vector<int32_t>{20}));
+    prompter.answers = {PromptAnswer::No};
+    PressKey(VK_ESCAPE);
+    ASSERT_EQ(prompter.boxes.size(), 1u);
+    EXPECT_EQ(prompter.boxes[0].title, "Confirm cancel");
+
+    PressKey(VK_TAB, {VK_CONTROL});
+    EXPECT_EQ(PageShown(), 0) << "Ctrl+Tab goes round";
+    PressKey(VK_TAB, {VK_CONTROL, VK_SHIFT});
+    EXPECT_EQ(PageShown(), 3) << "and back with Shift";
+
+    ClickTab(0);
+    PressKey(VK_TAB);
+    PressKey(VK_TAB);
+    EXPECT_EQ(GetFocus(), Field(IDC_WELCOME_MORE)) << "Tab skips the disabled \"< Previous\"";
+    PressKey(VK_RETURN);
+    PressKey(VK_SPACE);
+    EXPECT_EQ(help.topics, (std::vector<int32_t>{20, 20}));
+    EXPECT_EQ(PageShown(), 0) << "Enter went to the focused link, not to Next";
+
+    Click(IDC_WELCOME_NEXT);
+    Click(IDC_WELCOME_NEXT);
+    prompter.boxes.clear();
+    prompter.answers = {PromptAnswer::No, PromptAnswer::Yes};
+    Click(IDC_WELCOME_CANCEL);
+    ASSERT_EQ(prompter.boxes.size(), 1u);
+    EXPECT_EQ(prompter.boxes[0].text,
+              "Are you sure you want to cancel? Quorin will not run until you complete this "
+              "configuration wizard.");
+    EXPECT_EQ(prompter.boxes[0].buttons, PromptButtons::YesNo);
+    EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Question);
+    ASSERT_TRUE(IsWindow(wizard.hwnd()));
+    EXPECT_EQ(PageShown(), 2);
+
+    Click(IDC_WELCOME_CANCEL);
+    EXPECT_FALSE(IsWindow(wizard.hwnd()));
+    EXPECT_EQ(wizard.Result(), IDCANCEL);
+    EXPECT_EQ(help.closes, 1) << "help goes with the wizard";
+    EXPECT_FALSE(std::filesystem::exists(JoinPath(program.Path(), "index.txt")));
 }
 
 }  // namespace

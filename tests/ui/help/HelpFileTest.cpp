@@ -114,6 +114,7 @@ TEST(LoadHelpTopic, ExplainsAMissingTopicOrFileInTheTopicItself) {
     EXPECT_EQ(missingFile.title, "Help is not available");
     ASSERT_EQ(missingFile.blocks.size(), 1u);
     EXPECT_NE(missingFile.blocks[0].text.find(absent), std::string::npos);
+    EXPECT_NE(missingFile.blocks[0].text.find("could not be read"), std::string::npos);
 }
 
 TEST(ShippedHelpFile, HasEveryTopicTheProgramOpens) {

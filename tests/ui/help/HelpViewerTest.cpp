@@ -48,20 +48,18 @@ class HelpViewerTest : public ::testing::Test {
     ProgramHelp help_{folder_.Path()};
 };
 
-TEST_F(HelpViewerTest, OpensTheTopicWhereThePositionRecordSays) {
+TEST_F(HelpViewerTest, OpensTheTopicWhereThePositionRecordSaysAndReusesTheWindowUntilClosed) {
     EXPECT_EQ(help_.File(), JoinPath(folder_.Path(), "qn.HLP"));
     help_.ShowTopic(kHelpUsingQuorin);
     const HWND viewer = Viewer();
     ASSERT_NE(viewer, nullptr);
     EXPECT_TRUE(IsWindowVisible(viewer));
     EXPECT_EQ(GetWindow(viewer, GW_OWNER), nullptr);  // help outlives a hidden main window
-
-    const std::string text = ShownText(viewer);
+    std::string text = ShownText(viewer);
     EXPECT_EQ(text.rfind("Using Quorin", 0), 0u) << text;
     EXPECT_NE(text.find("Type a word."), std::string::npos) << text;
     EXPECT_TRUE(IsBold(TextBox(viewer), 0, 5));
     EXPECT_FALSE(IsBold(TextBox(viewer), 14, 18));
-
     // 256/1024 of the screen from the left and the top, half the screen in size.
     RECT place{};
     GetWindowRect(viewer, &place);
@@ -71,6 +69,27 @@ TEST_F(HelpViewerTest, OpensTheTopicWhereThePositionRecordSays) {
     EXPECT_EQ(place.top, screenHeight / 4);
     EXPECT_EQ(place.right - place.left, screenWidth / 2);
     EXPECT_EQ(place.bottom - place.top, screenHeight / 2);
+
+    SetWindowPos(viewer, nullptr, 10, 20, 400, 300, SWP_NOZORDER);
+    help_.ShowTopic(kHelpSettingUp);
+    EXPECT_EQ(Viewer(), viewer);
+    text = ShownText(viewer);
+    EXPECT_NE(text.find("Choose the drives."), std::string::npos) << text;
+    EXPECT_EQ(text.find("Type a word."), std::string::npos) << text;
+    GetWindowRect(viewer, &place);
+    EXPECT_EQ(place.left, 10);  // the user's place is kept
+    help_.ShowTopic(55);        // LoadHelpTopic's explanation, as for a missing file
+    EXPECT_NE(ShownText(viewer).find("no topic number 55"), std::string::npos);
+
+    SendMessageW(viewer, WM_CLOSE, 0, 0);  // the user closes it
+    EXPECT_FALSE(IsWindow(viewer));
+    help_.ShowTopic(kHelpSettingUp);
+    const HWND reopened = Viewer();
+    ASSERT_NE(reopened, nullptr);
+    EXPECT_TRUE(IsWindowVisible(reopened));
+    help_.Close();
+    EXPECT_FALSE(IsWindow(reopened));
+    help_.Close();  // nothing open: nothing happens
 }
 
 TEST(HelpViewerPlace, HalfTheScreenButScaledWithTheDpiAndInsideTheWorkArea) {
@@ -92,46 +111,6 @@ TEST(HelpViewerPlace, HalfTheScreenButScaledWithTheDpiAndInsideTheWorkArea) {
             << c.dpi << " dpi: " << place.left << "," << place.top << "-" << place.right << ","
             << place.bottom;
     }
-}
-
-TEST_F(HelpViewerTest, ReusesTheOpenWindowUntilClosedAndOpensAgainAfterwards) {
-    help_.ShowTopic(kHelpUsingQuorin);
-    const HWND viewer = Viewer();
-    SetWindowPos(viewer, nullptr, 10, 20, 400, 300, SWP_NOZORDER);
-    help_.ShowTopic(kHelpSettingUp);
-    EXPECT_EQ(Viewer(), viewer);
-    const std::string text = ShownText(viewer);
-    EXPECT_NE(text.find("Choose the drives."), std::string::npos) << text;
-    EXPECT_EQ(text.find("Type a word."), std::string::npos) << text;
-    RECT place{};
-    GetWindowRect(viewer, &place);
-    EXPECT_EQ(place.left, 10);  // the user's place is kept
-
-    help_.Close();
-    EXPECT_FALSE(IsWindow(viewer));
-    help_.Close();  // nothing open: nothing happens
-
-    help_.ShowTopic(kHelpUsingQuorin);
-    const HWND reopened = Viewer();
-    ASSERT_NE(reopened, nullptr);
-    SendMessageW(reopened, WM_CLOSE, 0, 0);  // the user closes it
-    EXPECT_FALSE(IsWindow(reopened));
-    help_.ShowTopic(kHelpSettingUp);
-    ASSERT_NE(Viewer(), nullptr);
-    EXPECT_TRUE(IsWindowVisible(Viewer()));
-}
-
-TEST_F(HelpViewerTest, ShowsAMissingTopicOrFileInTheWindow) {
-    help_.ShowTopic(55);
-    EXPECT_NE(ShownText(Viewer()).find("no topic number 55"), std::string::npos);
-
-    help_.Close();
-    ProgramHelp elsewhere(JoinPath(folder_.Path(), "elsewhere"));
-    elsewhere.Setup(nullptr);
-    elsewhere.ShowTopic(kHelpUsingQuorin);
-    const std::string text = ShownText(Viewer());
-    EXPECT_EQ(text.rfind("Help is not available", 0), 0u) << text;
-    EXPECT_NE(text.find("could not be read"), std::string::npos) << text;
 }
 
 }  // namespace
