@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
 #include "TestWindows.h"
 #include "platform/WinHandles.h"
@@ -53,30 +54,47 @@ class TextFlowTest : public ::testing::Test {
     const int lineHeight = LineHeight();
 };
 
-TEST_F(TextFlowTest, FollowsTheLastWordOfTheTextOnItsLine) {
+TEST_F(TextFlowTest, FollowsTheLastWordOfTheTextOnItsLineOrStartsTheNextLine) {
     const std::string first = "By default, only the first drive is indexed.";
     const std::string last = "To add drives,";
-    const HWND label = Label(first + " " + last, TextWidth(first) + 4);
     const HWND follower = Follower(30);
-    PlaceAfterText(label, follower);
-
-    const RECT placed = Window::RectInParent(follower);
+    PlaceAfterText(Label(first + " " + last, TextWidth(first) + 4), follower);
+    RECT placed = Window::RectInParent(follower);
     EXPECT_EQ(placed.top, 20 + lineHeight);  // the second line
     EXPECT_GE(placed.left, 10 + TextWidth(last));
     EXPECT_LE(placed.left, 10 + TextWidth(last + "  "));
 
     const HWND oneLine = Label("Short text,", 300);
     PlaceAfterText(oneLine, follower);
-    EXPECT_EQ(Window::RectInParent(follower).top, 20);
-    EXPECT_GE(Window::RectInParent(follower).left, 10 + TextWidth("Short text,"));
+    placed = Window::RectInParent(follower);
+    EXPECT_EQ(placed.top, 20);
+    EXPECT_GE(placed.left, 10 + TextWidth("Short text,"));
+
+    MoveWindow(follower, 0, 0, 295, lineHeight, FALSE);  // no room left on the line
+    PlaceAfterText(oneLine, follower);
+    placed = Window::RectInParent(follower);
+    EXPECT_EQ(placed.left, 10);
+    EXPECT_EQ(placed.top, 20 + lineHeight);
 }
 
-TEST_F(TextFlowTest, StartsTheNextLineWhenTheLastLineHasNoRoomLeft) {
-    const HWND label = Label("Short text,", 300);
-    const HWND follower = Follower(295);
-    PlaceAfterText(label, follower);
-    EXPECT_EQ(Window::RectInParent(follower).left, 10);
-    EXPECT_EQ(Window::RectInParent(follower).top, 20 + lineHeight);
+TEST(Dpi, TwipsAndPixelsRoundHalfAwayFromZeroAndPixelsSurviveTheTrip) {
+    for (const auto& [twips, dpi, pixels] : {std::tuple{1500, 96, 100},
+                                             {240, 96, 16},
+                                             {7, 96, 0},
+                                             {8, 96, 1},
+                                             {-8, 96, -1},
+                                             {1500, 144, 150},
+                                             {15, 144, 2},
+                                             {-15, 144, -2}}) {
+        EXPECT_EQ(TwipsToPixels(twips, dpi), pixels) << twips << " at " << dpi;
+    }
+    EXPECT_EQ(PixelsToTwips(100, 96), 1500);
+    EXPECT_EQ(PixelsToTwips(1, 144), 10);
+    for (const int dpi : {96, 120, 144, 168, 192, 288}) {
+        for (int pixels = -3000; pixels <= 3000; ++pixels) {
+            ASSERT_EQ(TwipsToPixels(PixelsToTwips(pixels, dpi), dpi), pixels) << dpi;
+        }
+    }
 }
 
 }  // namespace

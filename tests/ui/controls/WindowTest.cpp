@@ -6,6 +6,7 @@
 
 #include "TestWindows.h"
 #include "platform/Errors.h"
+#include "ui/MessagePump.h"
 #include "ui/WindowClass.h"
 
 namespace quorin {
@@ -45,13 +46,20 @@ class SelfOwned final : public Window {
     }
 };
 
-TEST(Window, ObjectAndWindowAreBoundForTheWindowsLifetime) {
-    test::TestParent parent;
-    DestroyWindow(parent.hwnd());
-    EXPECT_EQ(parent.hwnd(), nullptr);
-
+TEST(Window, ObjectAndWindowAreBoundForTheWindowsLifetimeAndSelfOwnedObjectsDieWithIt) {
     HWND window = nullptr;
     {
+        test::TestParent parent;
+        window = parent.hwnd();
+        SelfOwned::CreateChild(parent.hwnd());
+        const HWND second = SelfOwned::CreateChild(parent.hwnd());
+        EXPECT_EQ(SelfOwned::alive, 2);
+        DestroyWindow(second);
+        EXPECT_EQ(SelfOwned::alive, 1);
+        DestroyWindow(parent.hwnd());
+        EXPECT_EQ(parent.hwnd(), nullptr);
+        EXPECT_EQ(SelfOwned::alive, 0);
+
         const test::TestParent scoped;
         window = scoped.hwnd();
         ASSERT_TRUE(IsWindow(window));
@@ -59,47 +67,54 @@ TEST(Window, ObjectAndWindowAreBoundForTheWindowsLifetime) {
     EXPECT_FALSE(IsWindow(window));
 }
 
-TEST(Window, SelfOwnedObjectsLiveAndDieWithTheirWindows) {
-    test::TestParent parent;
-    const HWND first = SelfOwned::CreateChild(parent.hwnd());
-    SelfOwned::CreateChild(parent.hwnd());
-    EXPECT_EQ(SelfOwned::alive, 2);
-    DestroyWindow(first);
-    EXPECT_EQ(SelfOwned::alive, 1);
-    DestroyWindow(parent.hwnd());
-    EXPECT_EQ(SelfOwned::alive, 0);
-}
-
-class WindowErrorsTest : public ::testing::Test {
-  protected:
-    void SetUp() override {
-        SetWindowErrorHandler([this](std::string_view message) { reports.emplace_back(message); });
-    }
-    void TearDown() override { SetWindowErrorHandler(nullptr); }
-
+TEST(WindowErrors, AnErrorInAHandlerIsReportedOnceAndGoesNoFurther) {
     std::vector<std::string> reports;
-};
-
-TEST_F(WindowErrorsTest, AnErrorInAHandlerIsReportedAndGoesNoFurther) {
-    const FailingWindow window(WM_APP);
-    EXPECT_EQ(SendMessageW(window.hwnd(), WM_APP, 0, 0), 0);
-    EXPECT_EQ(reports, std::vector<std::string>{"The test handler failed."});
-}
-
-TEST_F(WindowErrorsTest, AWindowWhoseCreationFailsIsNotMade) {
-    EXPECT_THROW(FailingWindow{WM_CREATE}, Error);
-    EXPECT_EQ(reports.size(), 1u);
-}
-
-TEST_F(WindowErrorsTest, ErrorsWhileAnErrorIsShownAreNotStacked) {
     const FailingWindow window(WM_APP);
     SetWindowErrorHandler([&](std::string_view message) {
         reports.emplace_back(message);
         SendMessageW(window.hwnd(), WM_APP, 0, 0);  // fails again, as a repaint would
     });
-    SendMessageW(window.hwnd(), WM_APP, 0, 0);
+    EXPECT_EQ(SendMessageW(window.hwnd(), WM_APP, 0, 0), 0);
+    EXPECT_EQ(reports, std::vector<std::string>{"The test handler failed."})
+        << "errors while an error is shown are not stacked";
     SendMessageW(window.hwnd(), WM_APP, 0, 0);
     EXPECT_EQ(reports.size(), 2u);
+    EXPECT_THROW(FailingWindow{WM_CREATE}, Error) << "a window whose creation fails is not made";
+    SetWindowErrorHandler(nullptr);
+    EXPECT_EQ(reports.size(), 3u);
+}
+
+TEST(MessagePump, DoEventsRunsEverythingWaitingAndLeavesQuitToTheMainLoop) {
+    test::TestParent window;
+    int handled = 0;
+    window.onApp = [&](WPARAM more) {
+        ++handled;
+        if (more > 0) {
+            PostMessageW(window.hwnd(), WM_APP, more - 1, 0);
+        }
+    };
+    PostMessageW(window.hwnd(), WM_APP, 2, 0);  // posts two more while it runs
+    PostQuitMessage(7);
+    MessagePump pump;
+    pump.DoEvents();
+    EXPECT_EQ(handled, 3);
+    pump.DoEvents();  // returns at once: the quit is still waiting, for Run
+    EXPECT_EQ(MessagePump::Run(), 7);
+}
+
+TEST(MessagePump, TabMovesTheFocusInAPlainWindow) {
+    test::TestParent window;
+    const auto button = [&](int y) {
+        return CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 10, y, 80, 24,
+                               window.hwnd(), nullptr, nullptr, nullptr);
+    };
+    const HWND first = button(10);
+    const HWND second = button(40);
+    SetActiveWindow(window.hwnd());
+    SetFocus(first);
+    PostMessageW(first, WM_KEYDOWN, VK_TAB, 0);
+    MessagePump().DoEvents();
+    EXPECT_EQ(GetFocus(), second);
 }
 
 }  // namespace

@@ -1,0 +1,503 @@
+#include <gtest/gtest.h>
+
+#include <oleacc.h>
+#include <wrl/client.h>
+
+#include <algorithm>
+#include <cctype>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "TestWindows.h"
+#include "platform/Text.h"
+#include "platform/WinHandles.h"
+#include "ui/ComApartment.h"
+#include "ui/MessagePump.h"
+#include "ui/WindowText.h"
+#include "ui/controls/LabelModel.h"
+#include "ui/controls/OleColor.h"
+#include "ui/controls/ctlLinkLabel.h"
+#include "ui/controls/ctlTabLabel.h"
+
+namespace quorin {
+namespace {
+
+using Microsoft::WRL::ComPtr;
+using test::ClientSize;
+using test::Ink;
+using test::Render;
+using test::SendMouse;
+using test::Shows;
+
+constexpr COLORREF kLinkBlue = RGB(0, 0, 192);
+
+bool SameSize(SIZE a, SIZE b) {
+    return a.cx == b.cx && a.cy == b.cy;
+}
+
+TEST(LabelModel, InsideTestsOfTheTwoLabels) {
+    struct Case {
+        int x, y;
+        bool tab, link;
+    };
+    // 10 x 5 pixels: the tab counts its whole area, the link leaves out its first row and column.
+    for (const Case c : {Case{0, 0, true, false}, Case{0, 2, true, false}, Case{4, 0, true, false},
+                         Case{1, 1, true, true}, Case{9, 4, true, true}, Case{10, 2, false, false},
+                         Case{4, 5, false, false}, Case{-1, 2, false, false}}) {
+        EXPECT_EQ(InsideTabLabel(c.x, c.y, 10, 5), c.tab) << c.x << "," << c.y;
+        EXPECT_EQ(InsideLinkLabel(c.x, c.y, 10, 5), c.link) << c.x << "," << c.y;
+    }
+}
+
+TEST(LabelModel, MouseSequences) {
+    struct Case {
+        std::string_view steps;
+        bool underlined, captured;
+        int clicks;
+    };
+    // m/M a move outside/inside, d/D a press, u/U a release, r a reset, s selecting the tab first.
+    const Case cases[] = {
+        {"M", true, true, 0},      // hover underlines and holds the capture
+        {"Mm", false, false, 0},   // leaving lets both go
+        {"sM", false, false, 0},   // a selected tab neither underlines nor captures
+        {"U", true, true, 0},      // a release without a press is only a move
+        {"u", false, false, 0},    // ... also outside
+        {"DU", false, false, 1},   // a click ends the hover
+        {"DUU", true, true, 1},    // ... and the next release is a move again
+        {"Dm", false, true, 0},    // a press keeps the capture outside
+        {"Dmu", false, false, 1},  // so a release anywhere still clicks
+        {"dU", false, false, 1},   // ... and wherever the press began
+        {"sDU", false, false, 1},  // the selected tab still clicks
+        {"sDr", false, false, 0},  // a capture taken away drops the press, not the selection
+        {"DrU", true, true, 0},    // ... so the release after it is only a move
+    };
+    for (const Case& c : cases) {
+        LabelModel model;
+        int clicks = 0;
+        for (const char step : c.steps) {
+            const bool inside = std::isupper(static_cast<unsigned char>(step)) != 0;
+            switch (std::tolower(static_cast<unsigned char>(step))) {
+                case 's':
+                    model.SetSelected(true);
+                    break;
+                case 'm':
+                    model.MouseMove(inside);
+                    break;
+                case 'd':
+                    model.MouseDown(inside);
+                    break;
+                case 'u':
+                    clicks += model.MouseUp(inside) ? 1 : 0;
+                    break;
+                default:
+                    model.Reset();
+            }
+        }
+        EXPECT_EQ(model.Underlined(), c.underlined) << c.steps;
+        EXPECT_EQ(model.Captured(), c.captured) << c.steps;
+        EXPECT_EQ(clicks, c.clicks) << c.steps;
+        EXPECT_EQ(model.Selected(), c.steps[0] == 's') << c.steps;
+    }
+}
+
+// Three tabs, "Go" selected, and a link, on a hidden window.
+class LabelTest : public ::testing::Test {
+  protected:
+    void SetUp() override { go.SetSelected(true); }
+    std::vector<int> Clicked() const {
+        std::vector<int> ids;
+        for (const auto& command : parent.commands) {
+            ids.push_back(command.id);
+        }
+        return ids;
+    }
+
+    ComApartment apartment;
+    test::TestParent parent;
+    ctlTabLabel& go = ctlTabLabel::Create(parent.hwnd(), 1, "Go", 0, 0);
+    ctlTabLabel& index = ctlTabLabel::Create(parent.hwnd(), 2, "Index", 60, 0);
+    ctlTabLabel& options = ctlTabLabel::Create(parent.hwnd(), 3, "Options", 140, 0);
+    ctlLinkLabel& link = ctlLinkLabel::Create(parent.hwnd(), 7, "General Options", 10, 30);
+    const SIZE indexSize = ClientSize(index.hwnd());
+    const int indexInk = Ink(index.hwnd());
+    const SIZE linkSize = ClientSize(link.hwnd());
+    const int linkInk = Ink(link.hwnd());
+};
+
+TEST_F(LabelTest, SelectingATabDeselectsEveryTabOfItsWindowAndTouchesNothingElse) {
+    // A tab of another row inside a panel, a tab of another window, and other kinds of children.
+    const HWND panel = CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 40, 200, 60, parent.hwnd(),
+                                       nullptr, nullptr, nullptr);
+    ctlTabLabel& nested = ctlTabLabel::Create(panel, 4, "Help", 0, 0);
+    int spyMessages = 0;
+    test::CreateSpyChild(parent.hwnd(), spyMessages);
+    test::TestParent otherWindow;
+    ctlTabLabel& elsewhere = ctlTabLabel::Create(otherWindow.hwnd(), 1, "Go", 0, 0);
+    elsewhere.SetSelected(true);
+    nested.SetSelected(true);
+    EXPECT_FALSE(go.Selected());
+
+    spyMessages = 0;
+    options.SetSelected(true);
+    EXPECT_TRUE(options.Selected());
+    EXPECT_FALSE(go.Selected() || index.Selected() || nested.Selected());
+    EXPECT_TRUE(elsewhere.Selected());
+    EXPECT_EQ(spyMessages, 0);
+    EXPECT_EQ(link.Caption(), "General Options");
+}
+
+// Each step applies to what the steps before it left.
+TEST_F(LabelTest, CaptionColoursOnTheirBackgroundsInEveryState) {
+    struct Step {
+        const char* what;
+        std::function<void()> act;
+        LabelWindow& label;
+        COLORREF background;
+        COLORREF shown;
+        COLORREF absent;
+    };
+    const auto none = [] {};
+    const Step steps[] = {
+        {"selected tab", none, go, GetSysColor(COLOR_BTNFACE), GetSysColor(COLOR_BTNTEXT),
+         CLR_INVALID},
+        {"tab", none, index, GetSysColor(COLOR_BTNSHADOW), GetSysColor(COLOR_HIGHLIGHTTEXT),
+         CLR_INVALID},
+        {"disabled selected tab", [&] { go.SetEnabled(false); }, go, GetSysColor(COLOR_BTNFACE),
+         GetSysColor(COLOR_GRAYTEXT), GetSysColor(COLOR_BTNTEXT)},
+        // Grey text on the shadow could hardly be seen: the light colour is used instead.
+        {"disabled tab", [&] { index.SetEnabled(false); }, index, GetSysColor(COLOR_BTNSHADOW),
+         GetSysColor(COLOR_3DLIGHT), GetSysColor(COLOR_HIGHLIGHTTEXT)},
+        {"tab enabled again", [&] { index.SetEnabled(true); }, index, GetSysColor(COLOR_BTNSHADOW),
+         GetSysColor(COLOR_HIGHLIGHTTEXT), CLR_INVALID},
+        {"link", none, link, GetSysColor(COLOR_BTNFACE), kLinkBlue, CLR_INVALID},
+        {"link on its BackColor", [&] { link.SetBackColor(RGB(255, 255, 224)); }, link,
+         RGB(255, 255, 224), kLinkBlue, CLR_INVALID},
+        {"disabled link", [&] { link.SetEnabled(false); }, link, RGB(255, 255, 224),
+         GetSysColor(COLOR_GRAYTEXT), kLinkBlue},
+    };
+    EXPECT_EQ(link.BackColor(), 0x8000000Fu);
+    for (const Step& step : steps) {
+        SCOPED_TRACE(step.what);
+        step.act();
+        EXPECT_EQ(Render(step.label.hwnd())[0], step.background);
+        EXPECT_TRUE(Shows(step.label.hwnd(), step.shown));
+        EXPECT_TRUE(step.absent == CLR_INVALID || !Shows(step.label.hwnd(), step.absent));
+    }
+}
+
+TEST_F(LabelTest, HighContrastTurnsTheLinkBlueIntoTheHyperlinkColour) {
+    ASSERT_NE(GetSysColor(COLOR_HOTLIGHT), kLinkBlue);
+    OverrideHighContrast(true);
+    const bool hyperlink = Shows(link.hwnd(), GetSysColor(COLOR_HOTLIGHT));
+    const bool blue = Shows(link.hwnd(), kLinkBlue);
+    OverrideHighContrast(std::nullopt);
+    EXPECT_TRUE(hyperlink);
+    EXPECT_FALSE(blue);
+}
+
+TEST_F(LabelTest, ATabIsAsWideAsItsBoldCaptionAtEachResizeWhereALinkFollowsItsCaption) {
+    ctlLinkLabel& plain = ctlLinkLabel::Create(parent.hwnd(), 9, "Index", 0, 100);
+    EXPECT_GT(indexSize.cx, ClientSize(plain.hwnd()).cx);
+    index.SetSelected(true);
+    EXPECT_TRUE(SameSize(ClientSize(index.hwnd()), indexSize));
+    const int bold = Ink(index.hwnd());
+    MoveWindow(index.hwnd(), 60, 0, 300, 90, TRUE);  // the rule wins over the parent
+    EXPECT_TRUE(SameSize(ClientSize(index.hwnd()), indexSize));
+    EXPECT_TRUE(index.Selected());
+    EXPECT_LT(Ink(index.hwnd()), bold) << "bold lasts until the next resize";
+    index.SetSelected(true);
+    EXPECT_EQ(Ink(index.hwnd()), bold);
+
+    index.SetCaption("Index of every drive");  // waits for the next resize
+    EXPECT_TRUE(SameSize(ClientSize(index.hwnd()), indexSize));
+    MoveWindow(index.hwnd(), 60, 0, 1, 1, TRUE);
+    EXPECT_GT(ClientSize(index.hwnd()).cx, indexSize.cx);
+    LOGFONTW description{};
+    description.lfHeight = -40;
+    const UniqueFont big(CreateFontIndirectW(&description));
+    SendMessageW(index.hwnd(), WM_SETFONT, reinterpret_cast<WPARAM>(big.get()), TRUE);
+    EXPECT_EQ(reinterpret_cast<HFONT>(SendMessageW(index.hwnd(), WM_GETFONT, 0, 0)), big.get());
+    EXPECT_GT(ClientSize(index.hwnd()).cy, indexSize.cy) << "a font from the parent is a resize";
+
+    link.SetCaption("Change file types that are indexed");
+    EXPECT_GT(ClientSize(link.hwnd()).cx, linkSize.cx);
+    EXPECT_EQ(ClientSize(link.hwnd()).cy, linkSize.cy);
+    link.SetCaption("Help");
+    const SIZE shorter = ClientSize(link.hwnd());
+    EXPECT_LT(shorter.cx, linkSize.cx);
+    MoveWindow(link.hwnd(), 10, 30, 400, 80, TRUE);
+    EXPECT_EQ(ClientSize(link.hwnd()).cx, shorter.cx);
+}
+
+// The rightmost column where `after` differs from `before`.
+int RightmostChange(const std::vector<COLORREF>& before, const std::vector<COLORREF>& after,
+                    int width) {
+    int right = -1;
+    for (size_t i = 0; i < after.size(); ++i) {
+        if (after[i] != before[i]) {
+            right = std::max(right, static_cast<int>(i % width));
+        }
+    }
+    return right;
+}
+
+TEST_F(LabelTest, TheLinksUnderlineEndsWhereTheCaptionEnds) {
+    link.SetCaption("Change file types that are indexed");
+    const int width = ClientSize(link.hwnd()).cx;
+    const std::vector<COLORREF> plain = Render(link.hwnd());
+    const std::vector<COLORREF> background(plain.size(), plain[0]);
+    SendMouse(link.hwnd(), WM_MOUSEMOVE, 2, 2);
+    const int captionRight = RightmostChange(background, plain, width);
+    ASSERT_GT(captionRight, width / 2);
+    EXPECT_LE(RightmostChange(plain, Render(link.hwnd()), width), captionRight + 2);
+}
+
+// The hover, press and click rules are LabelModel's; this proves each label follows them with
+// its own inside test.
+TEST_F(LabelTest, HoverUnderlinesAndPressDragOutAndReleaseClicksAndSelects) {
+    SendMouse(link.hwnd(), WM_MOUSEMOVE, linkSize.cx - 1, linkSize.cy - 1);
+    EXPECT_GT(Ink(link.hwnd()), linkInk);
+    EXPECT_EQ(GetCapture(), link.hwnd());
+    SendMouse(link.hwnd(), WM_MOUSEMOVE, 0, linkSize.cy / 2);
+    EXPECT_LE(Ink(link.hwnd()), linkInk) << "the link's first column is outside";
+    EXPECT_EQ(GetCapture(), nullptr);
+
+    SendMouse(index.hwnd(), WM_MOUSEMOVE, 0, 0);  // the tab's first column and row are inside
+    EXPECT_GT(Ink(index.hwnd()), indexInk);
+    EXPECT_EQ(GetCapture(), index.hwnd());
+    SendMouse(index.hwnd(), WM_LBUTTONDOWN, 3, 3);
+    SendMouse(index.hwnd(), WM_MOUSEMOVE, -5, 40);
+    EXPECT_EQ(Ink(index.hwnd()), indexInk);
+    EXPECT_EQ(GetCapture(), index.hwnd());
+    EXPECT_TRUE(parent.commands.empty());
+    SendMouse(index.hwnd(), WM_LBUTTONUP, -5, 40);
+    EXPECT_EQ(Clicked(), std::vector<int>{2});
+    EXPECT_EQ(parent.commands[0].code, kLabelClick);
+    EXPECT_EQ(parent.commands[0].from, index.hwnd());
+    EXPECT_TRUE(index.Selected());
+    EXPECT_FALSE(go.Selected());
+    EXPECT_EQ(GetCapture(), nullptr);
+}
+
+// A release clicks only after a press the tab still holds; disabling ends a hover, and a
+// disabled tab ignores the mouse.
+TEST_F(LabelTest, ReleaseAfterLosingTheCaptureOrWhileDisabledDoesNothing) {
+    SendMouse(index.hwnd(), WM_LBUTTONDOWN, 3, 3);
+    SetCapture(parent.hwnd());
+    SendMouse(index.hwnd(), WM_LBUTTONUP, -4, 3);
+    EXPECT_TRUE(parent.commands.empty());
+    EXPECT_FALSE(index.Selected());
+    EXPECT_EQ(GetCapture(), parent.hwnd());  // not released: no longer the tab's
+    ReleaseCapture();
+
+    SendMouse(index.hwnd(), WM_MOUSEMOVE, 3, 3);
+    index.SetEnabled(false);
+    EXPECT_FALSE(index.Enabled());
+    EXPECT_EQ(GetCapture(), nullptr);
+    for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP}) {
+        SendMouse(index.hwnd(), message, 3, 3);
+        EXPECT_EQ(GetCapture(), nullptr);
+    }
+    EXPECT_TRUE(parent.commands.empty());
+    index.SetEnabled(true);
+    EXPECT_EQ(Ink(index.hwnd()), indexInk);
+}
+
+TEST_F(LabelTest, TheFocusedLinkShowsAFocusRectangleAndEnterOrSpaceClicksIt) {
+    SetFocus(link.hwnd());
+    ASSERT_EQ(GetFocus(), link.hwnd());
+    EXPECT_GT(Ink(link.hwnd()), linkInk);
+    const MSG enter{link.hwnd(), WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+    const MSG tab{link.hwnd(), WM_KEYDOWN, VK_TAB, 0, 0, {}};
+    EXPECT_EQ(SendMessageW(link.hwnd(), WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&enter)),
+              DLGC_WANTMESSAGE)
+        << "Enter is the link's, not the dialog's default";
+    EXPECT_EQ(SendMessageW(link.hwnd(), WM_GETDLGCODE, VK_TAB, reinterpret_cast<LPARAM>(&tab)), 0);
+
+    SendMessageW(link.hwnd(), WM_KEYDOWN, VK_RETURN, 0);
+    SendMessageW(link.hwnd(), WM_KEYDOWN, VK_SPACE, 0);
+    SendMessageW(link.hwnd(), WM_KEYDOWN, VK_SPACE, 1 << 30);  // held down
+    SendMessageW(link.hwnd(), WM_KEYDOWN, 'A', 0);
+    EXPECT_EQ(Clicked(), (std::vector<int>{7, 7}));
+    link.SetEnabled(false);
+    SendMessageW(link.hwnd(), WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_EQ(parent.commands.size(), 2u);
+
+    link.SetEnabled(true);
+    SetFocus(nullptr);
+    EXPECT_EQ(Ink(link.hwnd()), linkInk);
+}
+
+TEST(LabelCreation, WithoutACaptionBothLabelsShowTheDefaultOne) {
+    test::TestParent parent;
+    for (const ATOM atom : {ctlTabLabel::Register(), ctlLinkLabel::Register()}) {
+        const HWND window = CreateWindowExW(0, MAKEINTATOM(atom), nullptr, WS_CHILD, 0, 0, 0, 0,
+                                            parent.hwnd(), nullptr, nullptr, nullptr);
+        EXPECT_EQ(WindowText(window), "LinkLabel");
+        EXPECT_GT(ClientSize(window).cx, 0);
+    }
+    EXPECT_EQ(ctlTabLabel::From(parent.hwnd()), nullptr);
+}
+
+VARIANT Self() {
+    VARIANT self{};
+    self.vt = VT_I4;
+    self.lVal = CHILDID_SELF;
+    return self;
+}
+
+std::string Text(HRESULT (IAccessible::*get)(VARIANT, BSTR*), IAccessible& object) {
+    BSTR text = nullptr;
+    EXPECT_EQ((object.*get)(Self(), &text), S_OK);
+    std::string result = text != nullptr ? Narrow(text) : "";
+    SysFreeString(text);
+    return result;
+}
+
+long Number(HRESULT (IAccessible::*get)(VARIANT, VARIANT*), IAccessible& object) {
+    VARIANT number{};
+    EXPECT_EQ((object.*get)(Self(), &number), S_OK);
+    EXPECT_EQ(number.vt, VT_I4);
+    return number.lVal;
+}
+
+class LabelAccessibleTest : public LabelTest {
+  protected:
+    ctlLinkLabel& previous = ctlLinkLabel::Create(parent.hwnd(), 4, "< Previous", 0, 60);
+};
+
+TEST_F(LabelAccessibleTest, EachLabelTellsItsRoleNameStatesAndDefaultAction) {
+    previous.SetEnabled(false);
+    SetFocus(index.hwnd());
+    ASSERT_EQ(GetFocus(), index.hwnd());
+    struct Row {
+        LabelWindow& label;
+        long role;
+        const char* name;
+        const char* action;
+        long has;
+        long hasNot;
+    };
+    const Row rows[] = {
+        {go, ROLE_SYSTEM_PAGETAB, "Go", "Switch",
+         STATE_SYSTEM_SELECTED | STATE_SYSTEM_SELECTABLE | STATE_SYSTEM_FOCUSABLE,
+         STATE_SYSTEM_FOCUSED | STATE_SYSTEM_UNAVAILABLE},
+        {index, ROLE_SYSTEM_PAGETAB, "Index", "Switch",
+         STATE_SYSTEM_FOCUSED | STATE_SYSTEM_SELECTABLE | STATE_SYSTEM_FOCUSABLE,
+         STATE_SYSTEM_SELECTED},
+        {link, ROLE_SYSTEM_LINK, "General Options", "Click",
+         STATE_SYSTEM_LINKED | STATE_SYSTEM_FOCUSABLE,
+         STATE_SYSTEM_FOCUSED | STATE_SYSTEM_SELECTED | STATE_SYSTEM_UNAVAILABLE},
+        {previous, ROLE_SYSTEM_LINK, "< Previous", "Click", STATE_SYSTEM_UNAVAILABLE,
+         STATE_SYSTEM_FOCUSED},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        IAccessible& object = *row.label.Accessible();
+        EXPECT_EQ(Number(&IAccessible::get_accRole, object), row.role);
+        EXPECT_EQ(Text(&IAccessible::get_accName, object), row.name);
+        EXPECT_EQ(Text(&IAccessible::get_accDefaultAction, object), row.action);
+        const long states = Number(&IAccessible::get_accState, object);
+        EXPECT_EQ(states & row.has, row.has);
+        EXPECT_EQ(states & row.hasNot, 0);
+    }
+    link.SetCaption("Cancel");
+    EXPECT_EQ(Text(&IAccessible::get_accName, *link.Accessible()), "Cancel");
+}
+
+TEST_F(LabelAccessibleTest, WmGetObjectAnswersTheClientAreaThroughLresultFromObject) {
+    for (LabelWindow* label : {static_cast<LabelWindow*>(&go), static_cast<LabelWindow*>(&link)}) {
+        const LRESULT answer = SendMessageW(label->hwnd(), WM_GETOBJECT, 0, OBJID_CLIENT);
+        if (answer > 0) {
+            ComPtr<IAccessible> object;
+            ASSERT_EQ(ObjectFromLresult(answer, IID_IAccessible, 0, &object), S_OK);
+            EXPECT_EQ(Number(&IAccessible::get_accRole, *object.Get()),
+                      Number(&IAccessible::get_accRole, *label->Accessible()));
+        } else {
+            // Wine marshals no IAccessible: LresultFromObject's own failure proves that it was
+            // handed the label's object (the system's default answer is 0).
+            EXPECT_EQ(answer, static_cast<LRESULT>(E_NOINTERFACE));
+        }
+        EXPECT_EQ(SendMessageW(label->hwnd(), WM_GETOBJECT, 0, OBJID_WINDOW), 0)
+            << "the frame stays the system's";
+    }
+}
+
+TEST_F(LabelAccessibleTest, DefaultActionClicksOnceTheCallerHasReturnedAndNotPastTheLabel) {
+    previous.SetEnabled(false);
+    EXPECT_EQ(index.Accessible()->accDoDefaultAction(Self()), S_OK);
+    EXPECT_FALSE(index.Selected());
+    MessagePump().DoEvents();
+    EXPECT_TRUE(index.Selected());
+    EXPECT_FALSE(go.Selected());
+
+    EXPECT_EQ(link.Accessible()->accDoDefaultAction(Self()), S_OK);
+    EXPECT_EQ(previous.Accessible()->accDoDefaultAction(Self()), E_FAIL);
+    MessagePump().DoEvents();
+    EXPECT_EQ(Clicked(), (std::vector<int>{2, 7}));
+
+    const ComPtr<IAccessible> object = link.Accessible();
+    DestroyWindow(link.hwnd());
+    BSTR name = nullptr;
+    EXPECT_EQ(object->get_accName(Self(), &name), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(object->accDoDefaultAction(Self()), CO_E_OBJNOTCONNECTED);
+}
+
+struct WinEvent {
+    DWORD event;
+    HWND window;
+    LONG object;
+    bool operator==(const WinEvent&) const = default;
+};
+std::vector<WinEvent> seen;
+
+void CALLBACK RecordWinEvent(HWINEVENTHOOK, DWORD event, HWND window, LONG object, LONG child,
+                             DWORD, DWORD) {
+    if (child == CHILDID_SELF) {
+        seen.push_back({event, window, object});
+    }
+}
+
+TEST_F(LabelAccessibleTest, FocusSelectionAndTextChangesRaiseWinEvents) {
+    const HWND counter = CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 80, 60, 20, parent.hwnd(),
+                                         nullptr, nullptr, nullptr);
+    const HWINEVENTHOOK hook =
+        SetWinEventHook(EVENT_OBJECT_FOCUS, EVENT_OBJECT_NAMECHANGE, nullptr, &RecordWinEvent,
+                        GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
+    ASSERT_NE(hook, nullptr);
+    struct Row {
+        const char* what;
+        std::function<void()> act;
+        WinEvent expected;
+    };
+    const Row rows[] = {
+        {"focus on a tab",
+         [&] { SetFocus(index.hwnd()); },
+         {EVENT_OBJECT_FOCUS, index.hwnd(), OBJID_CLIENT}},
+        {"focus on a link",
+         [&] { SetFocus(link.hwnd()); },
+         {EVENT_OBJECT_FOCUS, link.hwnd(), OBJID_CLIENT}},
+        {"a tab selected",
+         [&] { index.SetSelected(true); },
+         {EVENT_OBJECT_SELECTION, index.hwnd(), OBJID_CLIENT}},
+        {"a caption changed",
+         [&] { link.SetCaption("Cancel"); },
+         {EVENT_OBJECT_NAMECHANGE, link.hwnd(), OBJID_CLIENT}},
+        {"the counter counting",
+         [&] { SetLiveText(counter, "42"); },
+         {EVENT_OBJECT_NAMECHANGE, counter, OBJID_CLIENT}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        seen.clear();
+        row.act();
+        MessagePump().DoEvents();
+        EXPECT_TRUE(std::ranges::find(seen, row.expected) != seen.end());
+    }
+    UnhookWinEvent(hook);
+}
+
+}  // namespace
+}  // namespace quorin
