@@ -40,7 +40,7 @@ constexpr std::string_view kTwoTopics =
     "@topic 20 Setting up\n"
     "Choose drives.";
 
-TEST(ParseHelpFile, ReadsTopicsWithParagraphsHeadingsAndBullets) {
+TEST(ParseHelpFile, ReadsTopicsWithParagraphsHeadingsAndBulletsWhateverTheLineEnds) {
     const std::vector<HelpTopic> topics = ParseHelpFile(kTwoTopics);
     ASSERT_EQ(topics.size(), 2u);
     EXPECT_EQ(topics[0].context, 10);
@@ -57,9 +57,8 @@ TEST(ParseHelpFile, ReadsTopicsWithParagraphsHeadingsAndBullets) {
     EXPECT_EQ(topics[1].context, 20);
     EXPECT_EQ(topics[1].title, "Setting up");
     EXPECT_EQ(topics[1].blocks, (std::vector<HelpBlock>{{Kind::Paragraph, "Choose drives."}}));
-}
 
-TEST(ParseHelpFile, ReadsCrLfAndLfAndABomAlike) {
+    // CR LF and a byte order mark read alike.
     std::string crlf;
     for (char c : kTwoTopics) {
         crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
@@ -85,20 +84,17 @@ TEST(ParseHelpFile, FindsNoTopicsWithoutValidHeaders) {
     EXPECT_EQ(topics[0].blocks, (std::vector<HelpBlock>{{Kind::Paragraph, "kept"}}));
 }
 
-TEST(FindHelpTopic, GivesTheFirstTopicOfANumberOrNone) {
+TEST(HelpFile, ThePathHasOneSeparatorAndATopicIsTheFirstOfItsNumber) {
+    EXPECT_EQ(HelpFilePath("C:\\"), "C:\\qn.HLP");
+    EXPECT_EQ(HelpFilePath("C:\\Quorin"), "C:\\Quorin\\qn.HLP");
+    EXPECT_EQ(HelpFilePath("  C:\\Program Files\\Quorin  "), "C:\\Program Files\\Quorin\\qn.HLP");
+    EXPECT_EQ(HelpFilePath(" C:\\ "), "C:\\qn.HLP");
     const std::vector<HelpTopic> topics =
         ParseHelpFile("@topic 10 First\n@topic 20 Other\n@topic 10 Second\n");
     ASSERT_NE(FindHelpTopic(topics, 10), nullptr);
     EXPECT_EQ(FindHelpTopic(topics, 10)->title, "First");
     EXPECT_EQ(FindHelpTopic(topics, 20)->title, "Other");
     EXPECT_EQ(FindHelpTopic(topics, 80), nullptr);
-}
-
-TEST(HelpFilePath, AppendsTheFileNameWithOneSeparator) {
-    EXPECT_EQ(HelpFilePath("C:\\"), "C:\\qn.HLP");
-    EXPECT_EQ(HelpFilePath("C:\\Quorin"), "C:\\Quorin\\qn.HLP");
-    EXPECT_EQ(HelpFilePath("  C:\\Program Files\\Quorin  "), "C:\\Program Files\\Quorin\\qn.HLP");
-    EXPECT_EQ(HelpFilePath(" C:\\ "), "C:\\qn.HLP");
 }
 
 TEST(LoadHelpTopic, ExplainsAMissingTopicOrFileInTheTopicItself) {
