@@ -14,22 +14,12 @@ namespace {
 
 class TextFlowTest : public ::testing::Test {
   protected:
-    // A static `width` pixels wide at (10, 20) showing `text`, two lines high.
-    HWND Label(const std::string& text, int width) {
-        const HWND label = Window::CreateControl(parent.hwnd(), L"STATIC", text, SS_LEFT, 1);
-        Place(label, 10, 20, width, 2 * lineHeight);
-        return label;
-    }
-
-    HWND Follower(int width) {
-        const HWND follower = Window::CreateControl(parent.hwnd(), L"STATIC", "link", SS_LEFT, 2);
-        Place(follower, 0, 0, width, lineHeight);
-        return follower;
-    }
-
-    void Place(HWND control, int x, int y, int width, int height) const {
+    // A static in the test's font at (x, y), `lines` lines high.
+    HWND Static(const std::string& text, int x, int y, int width, int lines) {
+        const HWND control = Window::CreateControl(parent.hwnd(), L"STATIC", text, SS_LEFT, 1);
         SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), FALSE);
-        MoveWindow(control, x, y, width, height, FALSE);
+        MoveWindow(control, x, y, width, lines * lineHeight, FALSE);
+        return control;
     }
 
     int TextWidth(const std::string& text) const {
@@ -57,14 +47,14 @@ class TextFlowTest : public ::testing::Test {
 TEST_F(TextFlowTest, FollowsTheLastWordOfTheTextOnItsLineOrStartsTheNextLine) {
     const std::string first = "By default, only the first drive is indexed.";
     const std::string last = "To add drives,";
-    const HWND follower = Follower(30);
-    PlaceAfterText(Label(first + " " + last, TextWidth(first) + 4), follower);
+    const HWND follower = Static("link", 0, 0, 30, 1);
+    PlaceAfterText(Static(first + " " + last, 10, 20, TextWidth(first) + 4, 2), follower);
     RECT placed = Window::RectInParent(follower);
     EXPECT_EQ(placed.top, 20 + lineHeight);  // the second line
     EXPECT_GE(placed.left, 10 + TextWidth(last));
     EXPECT_LE(placed.left, 10 + TextWidth(last + "  "));
 
-    const HWND oneLine = Label("Short text,", 300);
+    const HWND oneLine = Static("Short text,", 10, 20, 300, 2);
     PlaceAfterText(oneLine, follower);
     placed = Window::RectInParent(follower);
     EXPECT_EQ(placed.top, 20);
