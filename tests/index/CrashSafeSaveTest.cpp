@@ -2,19 +2,16 @@
 
 #include <chrono>
 #include <csignal>
-#include <filesystem>
 #include <functional>
 #include <random>
 #include <string>
 #include <thread>
 #include <vector>
 
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "EngineFixture.h"
-#include "platform/Errors.h"
 #include "platform/OleDate.h"
 #include "platform/TextFile.h"
 
@@ -85,15 +82,6 @@ class CrashSafeSave : public EngineFixture {
         waitpid(child, &status, 0);
         ASSERT_TRUE(savedOnce && WIFSIGNALED(status)) << "the saver stopped by itself: " << status;
     }
-
-    size_t LeftoverFiles() const {
-        size_t count = 0;
-        for (const auto& entry : std::filesystem::directory_iterator(program.Path())) {
-            const std::string name = entry.path().filename().string();
-            count += name != "index.txt" && name != "words.txt";
-        }
-        return count;
-    }
 };
 
 // Everything after line 1, which holds the build's time and so changes with every save.
@@ -147,59 +135,6 @@ TEST_F(CrashSafeSave, KilledSavesLeaveOneWholeVersionOfEachFile) {
     EXPECT_NE(index->LastUpdated, 0);
     EXPECT_EQ(index->ItemCount(), 200);
     EXPECT_TRUE(index->Words().Count() == 150 || index->Words().Count() == 250);
-}
-
-// A disk that fills up during a save: the save fails with a sentence naming the file, the old
-// file stays as it was and no temporary file is left behind.
-TEST_F(CrashSafeSave, FullDiskFailsClearlyAndKeepsTheOldFiles) {
-    {
-        const auto index = MakeIndex();
-        index->CreateIndex(true, ui);
-        AssignWords(*index, 20);
-        index->SaveWords();
-    }
-    const std::string oldIndex = ReadWholeFile(ProgramFile("index.txt"));
-    const std::string oldWords = ReadWholeFile(ProgramFile("words.txt"));
-
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        // Writes beyond 16 KB fail as on a full disk (EFBIG rather than a signal).
-        const rlimit limit{16384, 16384};
-        std::signal(SIGXFSZ, SIG_IGN);
-        if (setrlimit(RLIMIT_FSIZE, &limit) != 0) {
-            _exit(9);
-        }
-        const auto says = [](const FileError& e, const char* file) {
-            const std::string text = e.what();
-            return text.find(file) != std::string::npos &&
-                   text.find("could not be saved") != std::string::npos;
-        };
-        const auto index = MakeIndex();
-        try {
-            clock.now += kOneSecond;
-            index->CreateIndex(true, ui);
-            _exit(10);
-        } catch (const FileError& e) {
-            if (!says(e, "index.txt")) {
-                _exit(11);
-            }
-        }
-        AssignWords(*index, 1000);
-        try {
-            index->SaveWords();
-            _exit(12);
-        } catch (const FileError& e) {
-            _exit(says(e, "words.txt") ? 0 : 13);
-        }
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    ASSERT_TRUE(WIFEXITED(status));
-    EXPECT_EQ(WEXITSTATUS(status), 0) << "10/12: the save succeeded, 11/13: unclear message";
-    EXPECT_EQ(ReadWholeFile(ProgramFile("index.txt")), oldIndex);
-    EXPECT_EQ(ReadWholeFile(ProgramFile("words.txt")), oldWords);
-    EXPECT_EQ(LeftoverFiles(), 0u);
 }
 
 }  // namespace

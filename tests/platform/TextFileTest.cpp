@@ -10,6 +10,12 @@
 #ifdef _WIN32
 #include "platform/Text.h"
 #include "platform/WinHandles.h"
+#else
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
 #endif
 
 #include <filesystem>
@@ -148,6 +154,32 @@ TEST(ReplaceFileWhole, AFailedReadOrSaveNamesTheFileAndLeavesWhatWasThere) {
     EXPECT_EQ(FileCount(temp.Path()), 1u) << "the temporary file was not removed";
 #endif
 }
+
+#ifndef _WIN32
+// Writes beyond 16 KB fail as on a full disk (EFBIG rather than a signal), in a child process so
+// that the limit ends with it.
+TEST(ReplaceFileWhole, AFullDiskFailsNamingTheFileAndKeepsTheOldOne) {
+    TempFolder temp;
+    const std::string path = temp.WriteFile("words.txt", "old words\r\n");
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        const rlimit limit{16384, 16384};
+        std::signal(SIGXFSZ, SIG_IGN);
+        if (setrlimit(RLIMIT_FSIZE, &limit) != 0) {
+            _exit(9);
+        }
+        const std::string error =
+            ErrorOf([&] { ReplaceFileWhole(path, std::string(100000, 'x')); });
+        _exit(error.starts_with("The file \"" + path + "\" could not be saved: ") ? 0 : 10);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "9: no limit, 10: unclear error";
+    EXPECT_EQ(ReadWholeFile(path), "old words\r\n");
+    EXPECT_EQ(FileCount(temp.Path()), 1u) << "the temporary file was not removed";
+}
+#endif
 
 }  // namespace
 }  // namespace quorin
