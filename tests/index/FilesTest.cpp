@@ -78,12 +78,15 @@ std::string Summary(const clsIndex& index) {
     return summary;
 }
 
+// A file's bytes and what the engine made of them.
+struct FileCase {
+    const char* what;
+    std::string bytes;
+    std::string loaded;
+};
+
 TEST_F(BadInput, IndexFileKeepsTheRecordsBeforeAFaultAndOnlyAWholeFileCountsAsAnIndex) {
-    const struct {
-        const char* what;
-        std::string bytes;
-        std::string summary;
-    } cases[] = {
+    const FileCase cases[] = {
         {"empty file", "", "undated 0:"},
         {"only CR", "\r", "undated 0:"},
         {"only CRs", "\r\r\r\r", "undated 0:"},
@@ -139,11 +142,7 @@ TEST_F(BadInput, WordsFileLoadsWholeAssignmentsOrSaysWhatIsWrong) {
     const std::string shortFile = "The file \"" + ProgramFile("words.txt") +
                                   "\" ends in the middle of an assignment: its line count must be "
                                   "a multiple of three.";
-    const struct {
-        const char* what;
-        std::string bytes;
-        std::string loaded;
-    } cases[] = {
+    const FileCase cases[] = {
         {"empty file", "", ""},
         {"only CR", "\r", shortFile},
         {"no final line end", "one\r\nC:\\F0\r\na.txt", "one|"},

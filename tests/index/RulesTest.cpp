@@ -51,6 +51,20 @@ struct SettingsFields {
         ReadIndexSettings(store, {filter, filterIsInclude, updateInterval, includeSystemFolders,
                                   ignoreTempFolders, drives, allFolders});
     }
+
+    // Interval, filter, FilterIsInclude, IncludeSystemFolders, IgnoreTempFolders and AllFolders
+    // as 0 or 1, then the drives in use.
+    std::string Summary() const {
+        std::string summary = std::to_string(updateInterval) + "|" + filter + "|";
+        for (const bool flag :
+             {filterIsInclude, includeSystemFolders, ignoreTempFolders, allFolders}) {
+            summary += flag ? '1' : '0';
+        }
+        for (size_t i = 0; i < static_cast<size_t>(drives.count); ++i) {
+            summary += "|" + drives.slots[i];
+        }
+        return summary;
+    }
 };
 
 TEST(IndexSettingsTest, DriveListFollowsTheCountAndItsBound) {
@@ -86,12 +100,9 @@ TEST(IndexSettingsTest, DefaultsBothWritersBooleansAndAMismatchKeepsEarlierField
     MemorySettingsStore store;
     SettingsFields fields;
     fields.ReadFrom(store);
-    EXPECT_EQ(fields.updateInterval, 24);
-    EXPECT_EQ(fields.filter, ".DOC .XLS .HTM .HTML .TXT .URL .ZIP .EXE .COM .BMP .GIF .JPG .WAV ");
-    EXPECT_TRUE(fields.filterIsInclude && fields.includeSystemFolders && fields.ignoreTempFolders);
-    EXPECT_FALSE(fields.allFolders);
-    EXPECT_EQ(fields.drives.count, 1);
-    EXPECT_EQ(fields.drives.slots[0], DefaultRoot());
+    EXPECT_EQ(fields.Summary(),
+              "24|.DOC .XLS .HTM .HTML .TXT .URL .ZIP .EXE .COM .BMP .GIF .JPG .WAV |1110|" +
+                  DefaultRoot());
 
     for (const auto& [text, expected] :
          {std::pair{"False", false}, {"0", false}, {"True", true}, {"-1", true}}) {
@@ -138,12 +149,7 @@ TEST(IndexSettingsTest, OptionsWriteTheKeysInOrderAndFormsAndReadBackAsWritten) 
     EXPECT_EQ(store.Get("Index", "Drive2", ""), "x:");
     SettingsFields fields;
     fields.ReadFrom(store);
-    EXPECT_EQ(fields.updateInterval, 2);
-    EXPECT_EQ(fields.filter, ".TXT ");
-    EXPECT_TRUE(fields.filterIsInclude && fields.ignoreTempFolders && fields.allFolders);
-    EXPECT_FALSE(fields.includeSystemFolders);
-    EXPECT_EQ(fields.drives.count, 2);
-    EXPECT_EQ(fields.drives.slots[1], "e:");
+    EXPECT_EQ(fields.Summary(), "2|.TXT |1011|c:|e:");
 
     store.writes.clear();
     SaveIndexOptions({"24", "", false, true, false, {}}, store);
