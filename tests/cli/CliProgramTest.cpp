@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <regex>
+#include <sstream>
 
 #include "ChildProcess.h"
+#include "cli/CliApp.h"
 #include "platform/Path.h"
 #include "platform/TextFile.h"
 #include "support/TempFolder.h"
@@ -14,12 +16,20 @@ const std::string kUsageLine =
     "usage: quorin-cli [--folder DIR] [--settings FILE] build | find WORD | words [add WORD PATH | "
     "delete WORD]\n";
 
+// Most runs call RunCli in this process, which is quick under Wine; one test starts the program.
 class CliProgramTest : public ::testing::Test {
   protected:
     ProcessResult Run(std::vector<std::string> args, bool withFolders = true) const {
         if (withFolders) {
             args.insert(args.begin(), {"--folder", program_, "--settings", settings_});
         }
+        std::ostringstream out;
+        std::ostringstream err;
+        const int exitCode = RunCli(args, out, err);
+        return {exitCode, out.str(), err.str()};
+    }
+
+    ProcessResult RunTheProgram(const std::vector<std::string>& args) const {
 #ifdef _WIN32
         const std::string cli = "Z:" QUORIN_CLI_PATH;  // Wine shows the build tree as drive Z:
 #else
@@ -35,6 +45,24 @@ class CliProgramTest : public ::testing::Test {
         "settings.ini", "[Main]\nConfigured=1\n[Index]\nDriveCount=1\nDrive0=" + root_ +
                             "\nFilter=.TXT \nFilterIsInclude=True\n");
 };
+
+// The program hands its arguments to RunCli whole (through wmain on Windows, where "/?" asks for
+// the usage) and passes its exit code and both streams on.
+TEST_F(CliProgramTest, TheProgramPassesItsArgumentsAndResultsOn) {
+    const std::string cafe = folders_.WriteFile("tree/café.TXT", "");
+    EXPECT_EQ(Run({"build"}).exitCode, 0);
+    const ProcessResult found =
+        RunTheProgram({"--folder", program_, "--settings", settings_, "find", "É"});
+    EXPECT_EQ(found.exitCode, 0);
+    EXPECT_EQ(found.out, cafe + "\n");
+#ifdef _WIN32
+    EXPECT_TRUE(RunTheProgram({"/?"}).out.starts_with("usage: quorin-cli"));
+#endif
+    const ProcessResult refused = RunTheProgram({"rebuild"});
+    EXPECT_EQ(refused.exitCode, 1);
+    EXPECT_EQ(refused.out, "");
+    EXPECT_EQ(refused.err, "Unknown command \"rebuild\".\n" + kUsageLine);
+}
 
 TEST_F(CliProgramTest, BuildsFindsAndListsWords) {
     folders_.WriteFile("tree/notes.txt", "");
@@ -58,11 +86,8 @@ TEST_F(CliProgramTest, BuildsFindsAndListsWords) {
 }
 
 TEST_F(CliProgramTest, HelpVersionAndWordsAddAndDelete) {
-    std::vector<std::vector<std::string>> helps = {{"--help"}, {"build", "-h"}};
-#ifdef _WIN32
-    helps.push_back({"/?"});
-#endif
-    for (const auto& help : helps) {
+    for (const std::vector<std::string>& help :
+         {std::vector<std::string>{"--help"}, {"build", "-h"}}) {
         const ProcessResult result = Run(help, false);
         EXPECT_EQ(result.exitCode, 0);
         EXPECT_TRUE(result.out.starts_with("usage: quorin-cli")) << result.out;

@@ -1,89 +1,37 @@
 #include <gtest/gtest.h>
 
+#include "EngineFixture.h"
 #include "index/IndexFile.h"
 #include "index/WordsFile.h"
 #include "platform/Errors.h"
 #include "platform/OleDate.h"
-#include "support/TempFolder.h"
 
 namespace quorin {
 namespace {
 
+using namespace std::string_literals;
+
 const std::string kDate = "2023-03-15 12:00:00";
+const std::string kMegabyte(1 << 20, 'x');
 
-struct LoadedIndex {
-    std::optional<double> date;
-    FolderTable folders;
-    IndexItems items;
-};
-
-std::unique_ptr<LoadedIndex> Load(const TempFolder& folder, const std::string& content) {
-    auto loaded = std::make_unique<LoadedIndex>();
-    loaded->folders.Append("stale");
-    loaded->date =
-        ReadIndexFile(folder.WriteFile("index.txt", content), loaded->folders, loaded->items);
-    return loaded;
-}
-
-TEST(IndexFileTest, RoundTripKeepsAwkwardNamesOrderAndDate) {
-    FolderTable folders;
-    for (const char* path : {"C:", "C:\\ Leading, commas", "C:\\Ünïcødé ✓"}) {
-        folders.Append(path);
-    }
-    IndexItems items;
-    for (const char* name : {"  two blanks.txt", "a,b,c.doc", "Résumé.doc", "trailing .txt"}) {
-        items.Add(name, items.Count() % 3);
-    }
-    const std::string text = FormatIndexFile(*ParseIndexDate(kDate), folders, items);
-    EXPECT_TRUE(text.starts_with(kDate + "\r\n 3\r\nC:\r\n")) << text;
-
-    TempFolder folder;
-    const auto loaded = Load(folder, text);
-    EXPECT_EQ(loaded->date, ParseIndexDate(kDate));
-    ASSERT_EQ(loaded->folders.Count(), 3);
-    EXPECT_EQ(loaded->folders.Path(2), folders.Path(2));
-    ASSERT_EQ(loaded->items.Count(), items.Count());
-    for (int32_t i = 1; i <= items.Count(); ++i) {
-        EXPECT_EQ(loaded->items.Filename(i), items.Filename(i));
-        EXPECT_EQ(loaded->items.Directory(i), items.Directory(i));
-    }
-}
-
-TEST(IndexFileTest, EveryFaultClearsDateAndFoldersButKeepsTheRecordsBeforeIt) {
-    const std::string head = kDate + "\r\n 1\r\nC:\r\n 0\r\nkept.txt\r\n";
-    const struct {
-        std::string content;
-        bool valid;
-        int32_t records;
-    } cases[] = {
-        {kDate + "\r\n 0\r\n", true, 0},
-        {kDate + "\n1 \nD:\n0\nx.txt\n   0  \ny.txt", true, 2},  // blanks around numbers
-        {"garbage\r\n 0\r\n", false, 0},
-        {kDate + "\r\nabc\r\n", false, 0},
-        {kDate + "\r\n 2\r\nC:\r\n", false, 0},  // fewer folder lines than counted
-        {head + "x1\r\nbad.txt\r\n", false, 1},
-        {head + "\r\n", false, 1},
-    };
-    TempFolder folder;
-    for (const auto& [content, valid, records] : cases) {
-        const auto loaded = Load(folder, content);
-        EXPECT_EQ(loaded->date.has_value(), valid) << content;
-        EXPECT_TRUE(valid || loaded->folders.Count() == 0) << content;
-        EXPECT_EQ(loaded->items.Count(), records) << content;
-    }
-}
-
-TEST(IndexFileTest, AGrowableTableTakesAnyFolderCountAndRecordsInIt) {
-    std::string text = kDate + "\r\n 5003\r\n";
-    for (int i = 0; i < 5003; ++i) {
+// Text to tables and back to the same text: awkward names, their order, folders and date, in a
+// growable table that takes any folder count.
+TEST(IndexFileTest, RoundTripKeepsAwkwardNamesAndAnyFolderCountInAGrowableTable) {
+    std::string text = kDate + "\r\n 5003\r\nC:\r\nC:\\ Leading, commas\r\nC:\\Ünïcødé ✓\r\n";
+    for (int i = 3; i < 5003; ++i) {
         text += "C:\\" + std::to_string(i) + "\r\n";
     }
-    text += " 5002\r\nlast.txt\r\n";
+    text +=
+        " 0\r\n  two blanks.txt\r\n 1\r\na,b,c.doc\r\n 2\r\nRésumé.doc\r\n 5002\r\ntrailing "
+        ".txt\r\n";
     TempFolder folder;
     FolderTable folders(true);
     IndexItems items;
-    EXPECT_TRUE(ReadIndexFile(folder.WriteFile("index.txt", text), folders, items));
-    EXPECT_EQ(folders.Path(items.Directory(1)), "C:\\5002");
+    EXPECT_EQ(ReadIndexFile(folder.WriteFile("index.txt", text), folders, items),
+              ParseIndexDate(kDate));
+    EXPECT_EQ(folders.Path(2), "C:\\Ünïcødé ✓");
+    EXPECT_EQ(items.Filename(1), "  two blanks.txt");
+    EXPECT_EQ(folders.Path(items.Directory(4)), "C:\\5002");
     EXPECT_THROW(folders.Path(5003), OutOfRangeError);
     EXPECT_EQ(FormatIndexFile(*ParseIndexDate(kDate), folders, items), text);
 }
@@ -104,6 +52,133 @@ TEST(WordsFileTest, RoundTripAndTheRecordsBeforeAShortOne) {
     EXPECT_EQ(read, (std::vector<std::string>{"budget|C:\\My Documents| Budget, 98.xls",
                                               "Ünï|D:|ünï.txt"}));
     EXPECT_EQ(FormatWordsFile({}), "");
+}
+
+std::string IndexText(int folderCount, const std::vector<std::string>& lines) {
+    std::string text = kDate + "\r\n " + std::to_string(folderCount) + "\r\n";
+    for (int slot = 0; slot < folderCount; ++slot) {
+        text += "C:\\F" + std::to_string(slot) + "\r\n";
+    }
+    for (const std::string& line : lines) {
+        text += line + "\r\n";
+    }
+    return text;
+}
+
+using BadInput = EngineFixture;
+
+// Whether the engine took the file as whole (dated), its folder count and the names it kept.
+std::string Summary(const clsIndex& index) {
+    std::string summary = index.LastUpdated != 0 ? "dated " : "undated ";
+    summary.append(std::to_string(index.FolderCount())).append(":");
+    const std::optional<MatchList> all = index.FindMatch("");
+    for (int32_t i = 1; all && i <= all->Count(); ++i) {
+        summary.append(" ").append(all->Item(i).Filename);
+    }
+    return summary;
+}
+
+// A file's bytes and what the engine made of them.
+struct FileCase {
+    const char* what;
+    std::string bytes;
+    std::string loaded;
+};
+
+TEST_F(BadInput, IndexFileKeepsTheRecordsBeforeAFaultAndOnlyAWholeFileCountsAsAnIndex) {
+    const FileCase cases[] = {
+        {"empty file", "", "undated 0:"},
+        {"only CR", "\r", "undated 0:"},
+        {"only CRs", "\r\r\r\r", "undated 0:"},
+        {"no folders", kDate + "\r\n 0\r\n", "dated 0:"},
+        {"no final line end", IndexText(1, {" 0", "a.txt", " 0"}) + "b.txt",
+         "dated 1: a.txt b.txt"},
+        {"LF and lone CR line ends, blanks around numbers", kDate + "\n1 \rC:\n   0  \ra.txt\n",
+         "dated 1: a.txt"},
+        {"byte order mark", "\xEF\xBB\xBF" + IndexText(1, {" 0", "a.txt"}), "dated 1: a.txt"},
+        {"1 MB name", IndexText(1, {" 0", kMegabyte, " 0", "b.txt"}),
+         "dated 1: " + kMegabyte + " b.txt"},
+        {"1 MB first line", kMegabyte + "\r\n 1\r\nC:\r\n 0\r\na.txt\r\n", "undated 0:"},
+        {"NUL bytes in a name", IndexText(1, {" 0", "a\0b.txt"s}), "dated 1: a\0b.txt"s},
+        {"NUL byte in a record number", IndexText(1, {" 0", "a.txt", " 0\0"s, "b.txt"}),
+         "undated 0: a.txt"},
+        {"record number that is not a number", IndexText(1, {" 0", "a.txt", "x1", "b.txt"}),
+         "undated 0: a.txt"},
+        {"empty record number", IndexText(1, {" 0", "a.txt", ""}), "undated 0: a.txt"},
+        {"number without its name", IndexText(1, {" 0", "a.txt", " 0"}), "undated 0: a.txt"},
+        {"invalid UTF-8 name", IndexText(1, {" 0", "r\xE9sum\xE9.doc"}),
+         "dated 1: r\xC3\xA9sum\xC3\xA9.doc"},
+        {"folder count that is not a number", kDate + "\r\nabc\r\n", "undated 0:"},
+        {"negative folder count", kDate + "\r\n-1\r\n", "undated 0:"},
+        {"fewer folder lines than counted", kDate + "\r\n 2\r\nC:\r\n", "undated 0:"},
+        {"folder count of 5002", IndexText(5002, {" 0", "a.txt"}), "undated 0:"},
+        {"6000 folder lines", IndexText(6000, {}), "undated 0:"},
+        {"folder lines beyond the count of 5001",
+         IndexText(5001, {}) + "C:\\more\r\n 0\r\nlost.txt\r\n", "undated 0:"},
+        {"negative record number", IndexText(2, {" 1", "a.txt", "-1", "b.txt", " 0", "c.txt"}),
+         "undated 0: a.txt"},
+        {"huge record number", IndexText(2, {" 1", "a.txt", " 99999999999", "b.txt"}),
+         "undated 0: a.txt"},
+        {"record number beyond the table", IndexText(2, {" 5001", "a.txt"}), "undated 0:"},
+        {"record number past the folder count is still a slot", IndexText(1, {" 7", "a.txt"}),
+         "dated 1: a.txt"},
+        {"date that is not a date", "2024-02-30 10:30:00\r\n 0\r\n", "undated 0:"},
+    };
+    for (const auto& [what, bytes, summary] : cases) {
+        SCOPED_TRACE(what);
+        program.WriteFile("index.txt", bytes);
+        EXPECT_EQ(Summary(*MakeIndex()), summary);
+    }
+    settings.Save("Index", "Interval", "x" + kMegabyte);
+    EXPECT_THROW(MakeIndex(), TypeMismatchError);
+    settings.Save("Index", "Interval", "24");
+    settings.Save("Index", "DriveCount", "5002");
+    EXPECT_THROW(MakeIndex(), OutOfRangeError);
+}
+
+// The words loaded, each followed by "|", or the error's message.
+TEST_F(BadInput, WordsFileLoadsWholeAssignmentsOrSaysWhatIsWrong) {
+    program.WriteFile("index.txt", IndexText(1, {" 0", "a.txt"}));
+    const std::string shortFile = "The file \"" + ProgramFile("words.txt") +
+                                  "\" ends in the middle of an assignment: its line count must be "
+                                  "a multiple of three.";
+    const FileCase cases[] = {
+        {"empty file", "", ""},
+        {"only CR", "\r", shortFile},
+        {"no final line end", "one\r\nC:\\F0\r\na.txt", "one|"},
+        {"4 lines", "one\r\nC:\\F0\r\na.txt\r\ntwo\r\n", shortFile},
+        {"5 lines", "one\r\nC:\\F0\r\na.txt\r\ntwo\r\nC:\\F0\r\n", shortFile},
+        {"NUL bytes", "o\0e\r\nC:\\F0\r\na.txt\r\n"s, "o\0e|"s},
+        {"invalid UTF-8", "caf\xE9\r\nC:\\F0\r\na.txt\r\n", "caf\xC3\xA9|"},
+        {"1 MB word", kMegabyte + "\r\nC:\\F0\r\na.txt\r\n", kMegabyte + "|"},
+        {"LF and CR line ends", "one\nC:\\F0\ra.txt\r\ntwo\rgone\na.txt", "one|two|"},
+    };
+    for (const auto& [what, bytes, expected] : cases) {
+        SCOPED_TRACE(what);
+        program.WriteFile("words.txt", bytes);
+        std::string loaded;
+        try {
+            const auto index = MakeIndex();
+            for (const clsItem& item : index->Words()) {
+                loaded += item.Word + "|";
+                EXPECT_EQ(item.Directory, 0);  // "C:\F0" is slot 0 and "gone" falls back to it
+            }
+        } catch (const FileError& e) {
+            loaded = e.what();
+        }
+        EXPECT_EQ(loaded, expected);
+    }
+}
+
+// Found by fuzzing: the reader skips a byte order mark at the start of the file, so a first word
+// that begins with that character lost it on the next save and load.
+TEST_F(BadInput, FirstWordBeginningWithAByteOrderMarkSurvivesSaving) {
+    program.WriteFile("index.txt", IndexText(1, {" 0", "a.txt"}));
+    program.WriteFile("words.txt", "\xEF\xBB\xBF\xEF\xBB\xBFodd\r\nC:\\F0\r\na.txt\r\n");
+    MakeIndex()->SaveWords();
+    const auto index = MakeIndex();
+    ASSERT_EQ(index->Words().Count(), 1);
+    EXPECT_EQ(index->Words().Item(1)->Word, "\xEF\xBB\xBFodd");
 }
 
 }  // namespace

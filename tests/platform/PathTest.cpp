@@ -26,22 +26,13 @@ TEST(Path, DefaultRootIsTheSystemDrive) {
     EXPECT_EQ(DefaultRoot(), "C:");
 }
 #else
-// Restores HOME whatever the test does to it.
-class HomeGuard {
-  public:
-    HomeGuard() : saved_(std::getenv("HOME") != nullptr ? std::getenv("HOME") : "") {}
-    ~HomeGuard() { setenv("HOME", saved_.c_str(), 1); }
-
-  private:
-    std::string saved_;
-};
-
 TEST(Path, DefaultRootIsHomeWithoutATrailingSlash) {
-    const HomeGuard guard;
+    const std::string home = std::getenv("HOME") != nullptr ? std::getenv("HOME") : "";
     setenv("HOME", "/home/someone/", 1);
     EXPECT_EQ(DefaultRoot(), "/home/someone");
     setenv("HOME", "/", 1);
     EXPECT_EQ(DefaultRoot(), "") << "the root folder joins as \"/name\"";
+    setenv("HOME", home.c_str(), 1);
 }
 #endif
 

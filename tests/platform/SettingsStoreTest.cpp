@@ -20,6 +20,10 @@
 namespace quorin {
 namespace {
 
+using namespace std::string_literals;
+
+const std::string kMegabyte(1 << 20, 'x');
+
 std::string ErrorOf(const std::string& path) {
     try {
         IniSettingsStore store(path);
@@ -40,16 +44,24 @@ TEST(IniSettingsStore, ReadsSectionsKeysAndValuesAsWritten) {
                                             "# comment\r"
                                             "[ Main ]\r\n"
                                             "Folder=C:\\Program Files\\Quorin=1\r\n"
-                                            "Title=caf\xE9\r\n");
+                                            "Title=caf\xE9\r\n"
+                                            "Nul=a\0b\r"s +
+                                                "Long=" + kMegabyte);
     const IniSettingsStore store(path);
     EXPECT_EQ(store.Get("INDEX", "filter", ""), ".DOC .TXT ") << "the trailing blank is data";
     EXPECT_EQ(store.Get("Index", "Interval", ""), " 12");
     EXPECT_EQ(store.Get("main", "Folder", ""), "C:\\Program Files\\Quorin=1");
     EXPECT_EQ(store.Get("Main", "Title", ""), "caf\xC3\xA9");
+    EXPECT_EQ(store.Get("Main", "Nul", ""), "a\0b"s);
+    EXPECT_EQ(store.Get("Main", "Long", ""), kMegabyte) << "no final line end";
     EXPECT_EQ(store.Get("Main", "Missing", "default"), "default");
+    for (const char* empty : {"", "\r"}) {
+        EXPECT_EQ(IniSettingsStore(temp.WriteFile("empty.ini", empty)).Get("Index", "A", "24"),
+                  "24");
+    }
 }
 
-TEST(IniSettingsStore, SavesEveryValueToTheFileAndReadsThemBack) {
+TEST(IniSettingsStore, SavesEveryValueItCanWriteAsALineAndReadsThemBack) {
     TempFolder temp;
     const std::string path = JoinPath(JoinPath(temp.Path(), "new folder"), "settings.ini");
     {
@@ -65,48 +77,46 @@ TEST(IniSettingsStore, SavesEveryValueToTheFileAndReadsThemBack) {
     const IniSettingsStore reread(path);
     EXPECT_EQ(reread.Get("Index", "Filter", ""), ".TXT ");
     EXPECT_EQ(reread.Get("Main", "Left", ""), "1200");
+
+    IniSettingsStore refusing(JoinPath(temp.Path(), "refused.ini"));
+    for (const auto& [section, key, value] : {std::tuple{"Main", "a=b", "1"},
+                                              {"Main", "", "1"},
+                                              {"Main", ";key", "1"},
+                                              {"Main", " key", "1"},
+                                              {"", "key", "1"},
+                                              {"Main", "key", "two\r\nlines"}}) {
+        EXPECT_THROW(refusing.Save(section, key, value), Error) << key << "=" << value;
+    }
+    EXPECT_FALSE(FileExists(JoinPath(temp.Path(), "refused.ini")));
 }
 
-TEST(IniSettingsStore, RefusesNamesAndValuesThatCannotBeWrittenAsALine) {
-    TempFolder temp;
-    IniSettingsStore store(JoinPath(temp.Path(), "settings.ini"));
-    EXPECT_THROW(store.Save("Main", "a=b", "1"), Error);
-    EXPECT_THROW(store.Save("Main", "", "1"), Error);
-    EXPECT_THROW(store.Save("Main", ";key", "1"), Error);
-    EXPECT_THROW(store.Save("Main", " key", "1"), Error);
-    EXPECT_THROW(store.Save("", "key", "1"), Error);
-    EXPECT_THROW(store.Save("Main", "key", "two\r\nlines"), Error);
-    EXPECT_FALSE(FileExists(JoinPath(temp.Path(), "settings.ini")));
-}
-
-TEST(IniSettingsStore, AMalformedLineFailsNamingTheFileAndTheLine) {
+TEST(IniSettingsStore, AMalformedLineOrAnUnreadableFileFailsNamingIt) {
     TempFolder temp;
     const std::string noSection = temp.WriteFile("a.ini", "; comment\r\nkey=value\r\n");
-    const std::string noEquals = temp.WriteFile("b.ini", "[Main]\r\nok=1\r\n\r\njust text\r\n");
-    const std::string noKey = temp.WriteFile("c.ini", "[Main]\r\n=value\r\n");
-    const std::string badHeader = temp.WriteFile("d.ini", "[Main\r\n");
     EXPECT_EQ(ErrorOf(noSection), "Line 2 of the settings file \"" + noSection +
                                       "\" is neither a [section] header nor a key=value line.");
-    EXPECT_NE(ErrorOf(noEquals).find("Line 4 of the settings file \"" + noEquals + "\""),
-              std::string::npos);
-    EXPECT_NE(ErrorOf(noKey).find("Line 2 "), std::string::npos);
-    EXPECT_NE(ErrorOf(badHeader).find("Line 1 "), std::string::npos);
-}
+    for (const auto& [content, line] : {std::pair{"[Main]\r\nok=1\r\n\r\njust text\r\n", 4},
+                                        {"[Main]\r\n=value\r\n", 2},
+                                        {"[Main\r\n", 1}}) {
+        const std::string path = temp.WriteFile("b.ini", content);
+        EXPECT_NE(ErrorOf(path).find("Line " + std::to_string(line) + " of the settings file \"" +
+                                     path + "\""),
+                  std::string::npos)
+            << content;
+    }
 
-TEST(IniSettingsStore, AnUnreadableFileFailsNamingIt) {
-    TempFolder temp;
-    const std::string path = temp.WriteFile("locked.ini", "[Main]\r\n");
+    const std::string locked = temp.WriteFile("locked.ini", "[Main]\r\n");
 #ifdef _WIN32
-    const UniqueFileHandle lock(CreateFileW(Widen(path).c_str(), GENERIC_READ, 0, nullptr,
+    const UniqueFileHandle lock(CreateFileW(Widen(locked).c_str(), GENERIC_READ, 0, nullptr,
                                             OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     ASSERT_TRUE(lock);
 #else
     if (geteuid() == 0) {
         GTEST_SKIP() << "root reads every file";
     }
-    ASSERT_EQ(chmod(path.c_str(), 0), 0);
+    ASSERT_EQ(chmod(locked.c_str(), 0), 0);
 #endif
-    EXPECT_NE(ErrorOf(path).find("\"" + path + "\""), std::string::npos) << ErrorOf(path);
+    EXPECT_NE(ErrorOf(locked).find("\"" + locked + "\""), std::string::npos) << ErrorOf(locked);
 }
 
 }  // namespace

@@ -10,9 +10,16 @@
 #ifdef _WIN32
 #include "platform/Text.h"
 #include "platform/WinHandles.h"
+#else
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
 #endif
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -38,7 +45,7 @@ size_t FileCount(const std::string& folder) {
     return count;
 }
 
-TEST(TextFileReader, SplitsAtEveryKindOfLineEnd) {
+TEST(TextFileReader, SplitsAtEveryKindOfLineEndAndDecodesEachLine) {
     struct Case {
         std::string content;
         std::vector<std::string> lines;
@@ -55,22 +62,16 @@ TEST(TextFileReader, SplitsAtEveryKindOfLineEnd) {
         {"\n\r\n", {"", ""}},
         {"a\n\nb", {"a", "", "b"}},
         {" 42 \r\n", {" 42 "}},  // blanks belong to the line
+        // Only the first byte order mark is one, and a line that is not UTF-8 is ANSI.
+        {"\xEF\xBB\xBF"
+         "caf\xC3\xA9\r\ncaf\xE9\r\n\xEF\xBB\xBFx",
+         {"caf\xC3\xA9", "caf\xC3\xA9", "\xEF\xBB\xBFx"}},
     };
     TempFolder temp;
     for (const Case& c : cases) {
         const std::string path = temp.WriteFile("lines.txt", c.content);
         EXPECT_EQ(ReadLines(path), c.lines) << testing::PrintToString(c.content);
     }
-}
-
-TEST(TextFileReader, SkipsALeadingBomAndDecodesNonUtf8LinesAsAnsi) {
-    TempFolder temp;
-    const std::string path = temp.WriteFile("words.txt",
-                                            "\xEF\xBB\xBF"
-                                            "caf\xC3\xA9\r\ncaf\xE9\r\n\xEF\xBB\xBFx\r\n");
-    // Only the first BOM is a marker; later ones are text.
-    EXPECT_EQ(ReadLines(path),
-              (std::vector<std::string>{"caf\xC3\xA9", "caf\xC3\xA9", "\xEF\xBB\xBFx"}));
 }
 
 // The reader takes the file in pieces of 256 KB: lines, and CR LF pairs, that straddle the
@@ -101,59 +102,45 @@ TEST(TextFileReader, LinesSurviveTheReadersPieces) {
     }
 }
 
-TEST(TextFile, ReadingAMissingFileFailsNamingIt) {
-    TempFolder temp;
-    const std::string path = JoinPath(temp.Path(), "absent.txt");
-    try {
-        TextFileReader reader(path);
-        FAIL() << "no error for a missing file";
-    } catch (const FileError& error) {
-        EXPECT_NE(std::string(error.what()).find(path), std::string::npos) << error.what();
-    }
-}
-
 TEST(ReplaceFileWhole, CreatesAndReplacesTheWholeFile) {
     TempFolder temp;
     const std::string path = JoinPath(temp.Path(), "index.txt");
-    ReplaceFileWhole(path, "first version, rather long\r\n");
-    EXPECT_EQ(ReadWholeFile(path), "first version, rather long\r\n");
-    ReplaceFileWhole(path, "second\r\n");
-    EXPECT_EQ(ReadWholeFile(path), "second\r\n");
-    ReplaceFileWhole(path, "");
-    EXPECT_EQ(ReadWholeFile(path), "");
-    const std::string big(3 * 1024 * 1024 + 7, 'x');
-    ReplaceFileWhole(path, big);
-    EXPECT_EQ(ReadWholeFile(path), big);
+    for (const std::string& content :
+         {std::string("first version, rather long\r\n"), std::string("second\r\n"), std::string(),
+          std::string(3 * 1024 * 1024 + 7, 'x')}) {
+        ReplaceFileWhole(path, content);
+        EXPECT_TRUE(ReadWholeFile(path) == content) << content.size() << " bytes";
+    }
     EXPECT_EQ(FileCount(temp.Path()), 1u) << "a temporary file was left behind";
 }
 
-TEST(ReplaceFileWhole, FailsNamingTheFileWhenItsFolderIsMissing) {
-    TempFolder temp;
-    const std::string path = JoinPath(JoinPath(temp.Path(), "missing"), "index.txt");
+std::string ErrorOf(const std::function<void()>& action) {
     try {
-        ReplaceFileWhole(path, "data");
-        FAIL() << "no error for a missing folder";
+        action();
     } catch (const FileError& error) {
-        const std::string message = error.what();
-        EXPECT_NE(message.find("\"" + path + "\""), std::string::npos) << message;
-        EXPECT_EQ(message.back(), '.');
-        EXPECT_GT(message.size(), path.size() + 30) << "the OS reason is missing: " << message;
+        return error.what();
     }
-    EXPECT_EQ(FileCount(temp.Path()), 0u);
+    return "no error";
 }
 
-TEST(ReplaceFileWhole, LeavesWhatIsThereWhenTheTargetCannotBeReplaced) {
+// Each failure names the file in a sentence with the system's reason, leaves what was there and
+// no temporary file.
+TEST(ReplaceFileWhole, AFailedReadOrSaveNamesTheFileAndLeavesWhatWasThere) {
     TempFolder temp;
+    const std::string missing = JoinPath(JoinPath(temp.Path(), "missing"), "index.txt");
+    for (const std::string& message : {ErrorOf([&] { TextFileReader reader(missing); }),
+                                       ErrorOf([&] { ReplaceFileWhole(missing, "data"); })}) {
+        EXPECT_NE(message.find("\"" + missing + "\""), std::string::npos) << message;
+        EXPECT_EQ(message.back(), '.');
+        EXPECT_GT(message.size(), missing.size() + 30) << "the OS reason is missing: " << message;
+    }
+    EXPECT_EQ(FileCount(temp.Path()), 0u);
+
     const std::string folder = temp.MakeFolder("index.txt");
     temp.WriteFile("index.txt/inside.txt", "keep");
     EXPECT_THROW(ReplaceFileWhole(folder, "new"), FileError);
     EXPECT_EQ(ReadWholeFile(JoinPath(folder, "inside.txt")), "keep");
-    EXPECT_EQ(FileCount(temp.Path()), 1u) << "the temporary file was not removed";
-}
-
 #ifdef _WIN32
-TEST(ReplaceFileWhole, KeepsTheOldFileWholeWhenTheTargetIsInUse) {
-    TempFolder temp;
     const std::string path = temp.WriteFile("words.txt", "old words\r\n");
     {
         const UniqueFileHandle inUse(CreateFileW(Widen(path).c_str(), GENERIC_READ, 0, nullptr,
@@ -161,6 +148,34 @@ TEST(ReplaceFileWhole, KeepsTheOldFileWholeWhenTheTargetIsInUse) {
         ASSERT_TRUE(inUse);
         EXPECT_THROW(ReplaceFileWhole(path, "new words\r\n"), FileError);
     }
+    EXPECT_EQ(ReadWholeFile(path), "old words\r\n");
+    EXPECT_EQ(FileCount(temp.Path()), 2u) << "a temporary file was not removed";
+#else
+    EXPECT_EQ(FileCount(temp.Path()), 1u) << "the temporary file was not removed";
+#endif
+}
+
+#ifndef _WIN32
+// Writes beyond 16 KB fail as on a full disk (EFBIG rather than a signal), in a child process so
+// that the limit ends with it.
+TEST(ReplaceFileWhole, AFullDiskFailsNamingTheFileAndKeepsTheOldOne) {
+    TempFolder temp;
+    const std::string path = temp.WriteFile("words.txt", "old words\r\n");
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        const rlimit limit{16384, 16384};
+        std::signal(SIGXFSZ, SIG_IGN);
+        if (setrlimit(RLIMIT_FSIZE, &limit) != 0) {
+            _exit(9);
+        }
+        const std::string error =
+            ErrorOf([&] { ReplaceFileWhole(path, std::string(100000, 'x')); });
+        _exit(error.starts_with("The file \"" + path + "\" could not be saved: ") ? 0 : 10);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "9: no limit, 10: unclear error";
     EXPECT_EQ(ReadWholeFile(path), "old words\r\n");
     EXPECT_EQ(FileCount(temp.Path()), 1u) << "the temporary file was not removed";
 }

@@ -26,18 +26,18 @@ class RegistryTest : public ::testing::Test {
     clsRegistry registry_;
 };
 
-TEST_F(RegistryTest, ReadsAnExtensionsTypeAndItsDescriptionAndAnythingMissingAsEmpty) {
+TEST_F(RegistryTest, TextAndNumbersComeBackAsStoredAnythingElseOrMissingAsEmpty) {
     classes_.RegisterType(".qzt", "QuorinTest.Text", "Quorin test text", "");
     EXPECT_EQ(Read(".qzt"), RegistryValue("QuorinTest.Text"));
     EXPECT_EQ(Read("QuorinTest.Text"), RegistryValue("Quorin test text"));
-    EXPECT_TRUE(Read(".qzunregistered").IsEmpty());
-    EXPECT_TRUE(Read(".qzt", "NoSuchValue").IsEmpty());
-    EXPECT_TRUE(Read("QuorinTest.Text\\DefaultIcon").IsEmpty());
-    EXPECT_TRUE(Read("\\DefaultIcon").IsEmpty());  // what an unregistered type's icon asks for
-    EXPECT_EQ(Read(".qzunregistered").AsText(), "");
-}
+    for (const auto& [key, name] : {std::pair{".qzunregistered", ""},
+                                    {".qzt", "NoSuchValue"},
+                                    {"QuorinTest.Text\\DefaultIcon", ""},
+                                    {"\\DefaultIcon", ""}}) {  // an unregistered type's icon
+        EXPECT_TRUE(Read(key, name).IsEmpty()) << key;
+        EXPECT_EQ(Read(key, name).AsText(), "");
+    }
 
-TEST_F(RegistryTest, TextAndNumbersComeBackAsStoredOtherTypesAsEmpty) {
     const std::string key = "QuorinTest.Values";
     classes_.SetText(key, "expand", "%SystemRoot%\\system32\\shell32.dll,-152", REG_EXPAND_SZ);
     classes_.SetText(key, "accents", "Fichier texte \xC3\xA9t\xC3\xA9");
@@ -48,13 +48,12 @@ TEST_F(RegistryTest, TextAndNumbersComeBackAsStoredOtherTypesAsEmpty) {
     const ULONGLONG wide = 5;
     classes_.SetValue(key, "qword", REG_QWORD, &wide, sizeof wide);
     classes_.SetValue(key, "nodata", REG_SZ, nullptr, 0);
-
     EXPECT_EQ(Read(key, "expand"), RegistryValue("%SystemRoot%\\system32\\shell32.dll,-152"));
     EXPECT_EQ(Read(key, "accents"), RegistryValue("Fichier texte \xC3\xA9t\xC3\xA9"));
     EXPECT_EQ(Read(key, "dword"), RegistryValue(-123));
-    EXPECT_TRUE(Read(key, "binary").IsEmpty());
-    EXPECT_TRUE(Read(key, "qword").IsEmpty());
-    EXPECT_TRUE(Read(key, "nodata").IsEmpty());
+    for (const char* empty : {"binary", "qword", "nodata"}) {
+        EXPECT_TRUE(Read(key, empty).IsEmpty()) << empty;
+    }
 }
 
 // Subkeys end with one empty name, and a name of fifty characters ends the listing early.
@@ -109,41 +108,41 @@ class RegistryWriteTest : public ::testing::Test {
     clsRegistry registry_;
 };
 
-TEST_F(RegistryWriteTest, WritesTextWithItsTerminatingNul) {
+// Text and numbers convert both ways (which texts are whole numbers is ConversionsTest's); text
+// is written with its terminating NUL; other types and missing keys get nothing.
+TEST_F(RegistryWriteTest, WritesTextAndNumbersFromEitherAndNothingElse) {
+    EXPECT_EQ(RegistryValue().AsText(), "");
+    EXPECT_EQ(RegistryValue().AsNumber(), 0);
+    EXPECT_EQ(RegistryValue(-2147483647 - 1).AsText(), "-2147483648");
+    EXPECT_EQ(RegistryValue("2147483647").AsNumber(), 2147483647);
+    EXPECT_THROW(RegistryValue("").AsNumber(), TypeMismatchError);
+
     registry_.SetKeyValue(kKey, "text", RegistryValue("h\xC3\xA9llo"), REG_SZ);
     registry_.SetKeyValue(kKey, "number", RegistryValue(42), REG_SZ);
-
-    EXPECT_EQ(Read("text"), RegistryValue("h\xC3\xA9llo"));
-    EXPECT_EQ(Read("number"), RegistryValue("42"));
-    DWORD type = 0;
-    DWORD size = 0;
-    ASSERT_EQ(RegGetValueW(HKEY_CURRENT_USER, L"Software\\Quorin Tests\\Registry", L"text",
-                           RRF_RT_ANY, &type, nullptr, &size),
-              ERROR_SUCCESS);
-    EXPECT_EQ(type, static_cast<DWORD>(REG_SZ));
-    EXPECT_EQ(size, 6 * sizeof(wchar_t));
-}
-
-TEST_F(RegistryWriteTest, WritesNumbersFromNumbersAndFromText) {
     registry_.SetKeyValue(kKey, "fromNumber", RegistryValue(-7), REG_DWORD);
     registry_.SetKeyValue(kKey, "fromText", RegistryValue(" 1234 "), REG_DWORD);
-
-    EXPECT_EQ(Read("fromNumber"), RegistryValue(-7));
-    EXPECT_EQ(Read("fromText"), RegistryValue(1234));
     EXPECT_THROW(registry_.SetKeyValue(kKey, "bad", RegistryValue("12 monkeys"), REG_DWORD),
                  TypeMismatchError);
-}
-
-TEST_F(RegistryWriteTest, WritesNothingOfOtherTypesOrToMissingKeys) {
     registry_.SetKeyValue(kKey, "binary", RegistryValue("data"), REG_BINARY);
     registry_.SetKeyValue("Software\\Quorin Tests\\Missing", "text", RegistryValue("x"), REG_SZ);
 
+    EXPECT_EQ(Read("text"), RegistryValue("h\xC3\xA9llo"));
+    EXPECT_EQ(Read("number"), RegistryValue("42"));
+    EXPECT_EQ(Read("fromNumber"), RegistryValue(-7));
+    EXPECT_EQ(Read("fromText"), RegistryValue(1234));
+    const auto stored = [](const wchar_t* name, DWORD& type) {
+        DWORD size = 0;
+        const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, L"Software\\Quorin Tests\\Registry",
+                                            name, RRF_RT_ANY, &type, nullptr, &size);
+        return status == ERROR_SUCCESS ? size : 0;
+    };
+    DWORD type = 0;
+    EXPECT_EQ(stored(L"text", type), 6 * sizeof(wchar_t));
+    EXPECT_EQ(type, static_cast<DWORD>(REG_SZ));
+    EXPECT_EQ(stored(L"binary", type), 0u);
+    EXPECT_EQ(stored(L"bad", type), 0u);
     EXPECT_EQ(registry_.GetKeyNames(HKEY_CURRENT_USER, "Software\\Quorin Tests"),
               (Names{"Registry", ""}));
-    DWORD size = 0;
-    EXPECT_EQ(RegGetValueW(HKEY_CURRENT_USER, L"Software\\Quorin Tests\\Registry", L"binary",
-                           RRF_RT_ANY, nullptr, nullptr, &size),
-              ERROR_FILE_NOT_FOUND);
 }
 
 }  // namespace

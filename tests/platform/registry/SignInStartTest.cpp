@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "platform/Text.h"
+#include "platform/registry/clsRegistry.h"
 
 namespace quorin {
 namespace {
@@ -20,13 +20,9 @@ class SignInStartTest : public ::testing::Test {
     }
 
     std::string Stored() const {
-        wchar_t text[300] = {};
-        DWORD bytes = sizeof text;
-        if (RegGetValueW(HKEY_CURRENT_USER, Widen(kScratchKey).c_str(), L"Quorin", RRF_RT_REG_SZ,
-                         nullptr, text, &bytes) != ERROR_SUCCESS) {
-            return "(none)";
-        }
-        return Narrow(text);
+        const RegistryValue value =
+            clsRegistry().QueryValue(HKEY_CURRENT_USER, kScratchKey, "Quorin");
+        return value.IsEmpty() ? "(none)" : value.AsText();
     }
 
     SignInStart run{SignInStart::Command("C:\\Users\\me\\Programs\\Quorin\\quorin.exe"),
@@ -48,14 +44,14 @@ TEST_F(SignInStartTest, TheValueIsTheQuotedPathWithTheSwitchAndComesAndGoes) {
     run.TurnOff();
     EXPECT_FALSE(run.IsOn());
     EXPECT_EQ(Stored(), "(none)");
-}
 
-TEST(SignInSwitch, OnlyTheSwitchItselfMeansASignInStart) {
-    EXPECT_TRUE(IsSignInStart("/tray"));
-    EXPECT_TRUE(IsSignInStart("  /TRAY "));
-    EXPECT_FALSE(IsSignInStart(""));
-    EXPECT_FALSE(IsSignInStart("/trayx"));
-    EXPECT_FALSE(IsSignInStart("tray"));
+    for (const auto& [argument, signIn] : {std::pair{"/tray", true},
+                                           {"  /TRAY ", true},
+                                           {"", false},
+                                           {"/trayx", false},
+                                           {"tray", false}}) {
+        EXPECT_EQ(IsSignInStart(argument), signIn) << argument;
+    }
 }
 
 }  // namespace
