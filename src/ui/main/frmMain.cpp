@@ -63,7 +63,7 @@ void frmMain::Form_Load() {
     services_.help.Setup(hwnd());
     CreateControls();
     LayOut();
-    startPlace_.Load(services_.settings, hwnd(), dpi_);
+    startPlace_.Load(services_.settings, CentredOnScreen(hwnd(), dpi_), {}, dpi_);
     startPlace_.MoveTo(hwnd(), dpi_, SWP_NOACTIVATE);
     AddWords();
     // Let the word list and the layout settle before the icon invites the first click.

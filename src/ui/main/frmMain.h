@@ -17,6 +17,7 @@
 #include "platform/Shell.h"
 #include "platform/WinHandles.h"
 #include "ui/PacedProgress.h"
+#include "ui/RememberedPlace.h"
 #include "ui/Window.h"
 #include "ui/controls/TabRow.h"
 #include "ui/controls/ctlLinkLabel.h"
@@ -25,10 +26,10 @@
 #include "ui/main/HotkeyTarget.h"
 #include "ui/main/MainBuilds.h"
 #include "ui/main/MainPanels.h"
+#include "ui/main/MainSettings.h"
 #include "ui/main/MatchesOpener.h"
 #include "ui/main/OptionsOpener.h"
 #include "ui/main/ProgressPanel.h"
-#include "ui/main/RememberedPlace.h"
 #include "ui/main/TrayMenu.h"
 #include "ui/main/WordBox.h"
 #include "ui/main/clsSysTray.h"
@@ -193,7 +194,10 @@ class frmMain final : public Window,
     UniqueIcon icon_;
     UniqueIcon indexingIcon_;
     int currentTab_ = 0;
-    RememberedPlace startPlace_;
+    RememberedPlace startPlace_{{.section = MainSettings::kSection,
+                                 .left = MainSettings::kStartX,
+                                 .top = MainSettings::kStartY,
+                                 .dpi = MainSettings::kStartDpi}};
     GlobalHotkey hotkey_;
     bool unloaded_ = false;
     UINT taskbarCreated_ = 0;

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "platform/Text.h"
+#include "ui/RememberedPlace.h"
 #include "ui/matches/MatchRows.h"
 #include "ui/matches/MatchesLayout.h"
-#include "ui/matches/MatchesPlace.h"
 #include "ui/matches/MatchesSort.h"
 #include "ui/matches/TypedRow.h"
 
