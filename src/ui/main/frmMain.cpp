@@ -225,7 +225,7 @@ void frmMain::Hide() {
 LRESULT frmMain::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case kWordKeyDown:
-            cboWord.KeyDown(static_cast<int>(wParam));  // cboWord_KeyDown
+            cboWord.KeyDown(static_cast<int>(wParam));
             return 0;
         case WM_MOUSEMOVE:
             Form_MouseMove(wParam, lParam);
@@ -322,11 +322,11 @@ void frmMain::OnCommand(int id, int code, HWND) {
 void frmMain::cboWord_Command(int code) {
     if (code == CBN_EDITCHANGE) {
         SetText(lblFile, "");  // what Go said was about the word before
-        cboWord.Change();      // cboWord_Change
+        cboWord.Change();
     } else if (code == CBN_SETFOCUS) {
-        HighlightControl(cboWord.hwnd());  // cboWord_GotFocus
+        HighlightControl(cboWord.hwnd());
     } else if (code == CBN_KILLFOCUS) {
-        UnhighlightControl(cboWord.hwnd());  // cboWord_LostFocus
+        UnhighlightControl(cboWord.hwnd());
     }
 }
 
