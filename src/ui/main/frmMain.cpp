@@ -101,10 +101,10 @@ void frmMain::CreatePanelControls() {
         }
     }
     // Screen readers name the word box by the label just before it in the tab order.
-    SetWindowPos(cboWord.hwnd(), lblEnterWord, 0, 0, 0, 0,
+    SetWindowPos(cboWord.hwnd(), lblEnterWord_, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     ShowWindow(ProgressBar1, SW_HIDE);
-    ShowWindow(lnkFoldersLeftOut->hwnd(), SW_HIDE);
+    ShowWindow(lnkFoldersLeftOut_->hwnd(), SW_HIDE);
     progressPanel_.Attach(picPanel);
 }
 
@@ -135,7 +135,7 @@ void frmMain::LayOut() {
 
 // Where the font draws "Enter word:" wider than its place, the word box gives way on its left.
 void frmMain::KeepWordBoxClear() {
-    const int left = ClearOfText(lblEnterWord);
+    const int left = ClearOfText(lblEnterWord_);
     const RECT box = Window::RectInParent(cboWord.hwnd());
     if (left > box.left) {
         SetWindowPos(cboWord.hwnd(), nullptr, left, box.top, box.right - left,
@@ -468,9 +468,9 @@ void frmMain::UpdateIndexPanel() {
                                    std::to_string(index.UpdateInterval) + " hour(s).");
     const IndexSummary summary =
         SummarizeIndex(index.FolderCount(), index.ItemCount(), index.FoldersLeftOut());
-    SetText(lblIndexSummary, summary.linksToAllFolders ? "" : summary.text);
-    lnkFoldersLeftOut->SetCaption(summary.linksToAllFolders ? summary.text : "");
-    ShowWindow(lnkFoldersLeftOut->hwnd(), summary.linksToAllFolders ? SW_SHOW : SW_HIDE);
+    SetText(lblIndexSummary_, summary.linksToAllFolders ? "" : summary.text);
+    lnkFoldersLeftOut_->SetCaption(summary.linksToAllFolders ? summary.text : "");
+    ShowWindow(lnkFoldersLeftOut_->hwnd(), summary.linksToAllFolders ? SW_SHOW : SW_HIDE);
 }
 
 void frmMain::cmdGo_Click() {

@@ -178,7 +178,7 @@ class frmMain final : public Window,
     int dpi_ = 96;
     MainPanels picPanel;
     TabRow tabLabel;
-    HWND lblEnterWord = nullptr;
+    HWND lblEnterWord_ = nullptr;
     WordBox cboWord;
     HWND lblFile = nullptr;
     HWND ProgressBar1 = nullptr;
@@ -186,8 +186,8 @@ class frmMain final : public Window,
     HWND lblLastUpdated = nullptr;
     HWND lblUpdateInterval = nullptr;
     // What the index holds; with folders left out, the link to "Index every folder" instead.
-    HWND lblIndexSummary = nullptr;
-    ctlLinkLabel* lnkFoldersLeftOut = nullptr;
+    HWND lblIndexSummary_ = nullptr;
+    ctlLinkLabel* lnkFoldersLeftOut_ = nullptr;
     ProgressPanel progressPanel_;
     TrayMenu mnuSystray{kIdMenuGo, kIdMenuExit};
     UniqueFont font_;

@@ -446,7 +446,7 @@ void frmMatches::SortRows() {
     const std::optional<int> selected = SelectedRow();
     const std::optional<int32_t> position =
         selected ? std::optional<int32_t>(rows_.Position(*selected)) : std::nullopt;
-    rows_.Sort(sort_.SortKey, sort_.SortOrder);
+    rows_.Sort(sort_.sortKey, sort_.sortOrder);
     if (position) {
         SelectRow(rows_.RowOf(*position).value_or(0));
     }
@@ -460,8 +460,8 @@ void frmMatches::ShowSortArrow() {
         item.mask = HDI_FORMAT;
         Header_GetItem(header, column, &item);
         item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
-        if (sort_.Sorted && column == sort_.SortKey) {
-            item.fmt |= sort_.SortOrder == MatchesSortOrder::Ascending ? HDF_SORTUP : HDF_SORTDOWN;
+        if (sort_.sorted && column == sort_.sortKey) {
+            item.fmt |= sort_.sortOrder == MatchesSortOrder::Ascending ? HDF_SORTUP : HDF_SORTDOWN;
         }
         Header_SetItem(header, column, &item);
     }
