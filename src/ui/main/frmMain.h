@@ -194,10 +194,7 @@ class frmMain final : public Window,
     UniqueIcon icon_;
     UniqueIcon indexingIcon_;
     int currentTab_ = 0;
-    RememberedPlace startPlace_{{.section = MainSettings::kSection,
-                                 .left = MainSettings::kStartX,
-                                 .top = MainSettings::kStartY,
-                                 .dpi = MainSettings::kStartDpi}};
+    RememberedPlace startPlace_{MainSettings::kStartPlace};
     GlobalHotkey hotkey_;
     bool unloaded_ = false;
     UINT taskbarCreated_ = 0;
