@@ -10,7 +10,7 @@
 #include "platform/WinHandles.h"
 #include "ui/MessagePump.h"
 #include "ui/help/ProgramHelp.h"
-#include "ui/splash/Splash.h"
+#include "ui/splash/frmSplash.h"
 
 namespace {
 

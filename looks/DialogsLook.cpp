@@ -11,7 +11,7 @@
 #include "LookHighContrast.h"
 #include "platform/registry/clsRegistry.h"
 #include "ui/controls/OleColor.h"
-#include "ui/dialogs/FileChooser.h"
+#include "ui/dialogs/CommonFileChooser.h"
 #include "ui/dialogs/KnownExtensions.h"
 #include "ui/dialogs/SystemDrives.h"
 #include "ui/dialogs/frmNewWord.h"

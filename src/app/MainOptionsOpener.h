@@ -10,7 +10,7 @@
 #include "platform/Prompter.h"
 #include "platform/SettingsStore.h"
 #include "platform/registry/SignInStart.h"
-#include "ui/dialogs/FileChooser.h"
+#include "ui/dialogs/CommonFileChooser.h"
 #include "ui/dialogs/frmOptions.h"
 #include "ui/help/Help.h"
 #include "ui/main/HotkeyTarget.h"

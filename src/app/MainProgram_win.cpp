@@ -2,10 +2,10 @@
 
 #include <commctrl.h>
 
-#include "app/Main.h"
 #include "app/MainInstance.h"
 #include "app/MainMatchesOpener.h"
 #include "app/MainOptionsOpener.h"
+#include "app/Startup.h"
 #include "platform/MessageBoxPrompter.h"
 #include "platform/Path.h"
 #include "platform/RegistrySettingsStore.h"

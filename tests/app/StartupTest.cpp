@@ -4,13 +4,13 @@
 
 #include "QuorinVersion.h"
 #include "WelcomeDialog.h"
-#include "app/Main.h"
 #include "app/MainInstance.h"
+#include "app/Startup.h"
 #include "platform/Path.h"
 #include "ui/dialogs/DialogTestHelpers.h"
 #include "ui/dialogs/frmWelcome.h"
 #include "ui/main/MainFakes.h"
-#include "ui/splash/Splash.h"
+#include "ui/splash/frmSplash.h"
 
 namespace quorin::test {
 namespace {

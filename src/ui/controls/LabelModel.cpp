@@ -13,16 +13,16 @@ bool InsideLinkLabel(int x, int y, int width, int height) {
 void LabelModel::MouseMove(bool inside) {
     const bool hover = inside && !selected_;
     underlined_ = hover;
-    bCaptured_ = hover || bPressed_;
+    bCaptured = hover || bPressed;
 }
 
 void LabelModel::MouseDown(bool inside) {
-    bPressed_ = true;
+    bPressed = true;
     MouseMove(inside);
 }
 
 bool LabelModel::MouseUp(bool inside) {
-    if (!bPressed_) {
+    if (!bPressed) {
         MouseMove(inside);
         return false;
     }
@@ -32,8 +32,8 @@ bool LabelModel::MouseUp(bool inside) {
 
 void LabelModel::Reset() {
     underlined_ = false;
-    bPressed_ = false;
-    bCaptured_ = false;
+    bPressed = false;
+    bCaptured = false;
 }
 
 }  // namespace quorin

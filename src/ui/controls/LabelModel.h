@@ -25,13 +25,13 @@ class LabelModel {
     bool Selected() const { return selected_; }
     void SetSelected(bool selected) { selected_ = selected; }
     bool Underlined() const { return underlined_; }
-    bool Captured() const { return bCaptured_; }
+    bool Captured() const { return bCaptured; }
 
   private:
     bool selected_ = false;
     bool underlined_ = false;
-    bool bPressed_ = false;
-    bool bCaptured_ = false;
+    bool bPressed = false;
+    bool bCaptured = false;
 };
 
 }  // namespace quorin

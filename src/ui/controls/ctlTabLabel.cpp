@@ -54,16 +54,16 @@ bool ctlTabLabel::Inside(int x, int y, int width, int height) const {
 }
 
 void ctlTabLabel::UserControl_Resize() {
-    if (bInResize_) {
+    if (bInResize) {
         return;
     }
-    bInResize_ = true;
+    bInResize = true;
     std::string padded(1, ' ');
     padded.append(Caption()).push_back(' ');
     ResizeTo(MeasureText(padded, true));
     bold_ = false;
     Repaint();
-    bInResize_ = false;
+    bInResize = false;
 }
 
 void ctlTabLabel::Clicked() {

@@ -41,7 +41,7 @@ class ctlTabLabel final : public LabelWindow {
     void DeselectOtherTabs();
 
     bool bold_ = false;
-    bool bInResize_ = false;
+    bool bInResize = false;
 };
 
 }  // namespace quorin

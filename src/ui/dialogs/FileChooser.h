@@ -19,10 +19,4 @@ class FileChooser {
                                const std::string& fileName) = 0;
 };
 
-// The system's file-open dialog.
-class CommonFileChooser final : public FileChooser {
-  public:
-    std::string Choose(HWND owner, std::string_view filter, const std::string& fileName) override;
-};
-
 }  // namespace quorin

@@ -136,7 +136,7 @@ void GeneralPage::OnCommand(int id, int code, HWND control) {
         return;
     }
     if (code == EN_SETFOCUS) {
-        HighlightControl(control);  // txtInterval_GotFocus
+        HighlightControl(control);
     } else if (code == EN_KILLFOCUS) {
         txtInterval_LostFocus();
     }

@@ -39,7 +39,7 @@ void WelcomeFileTypes::Fill(const std::string& filter) {
             AddFileType(ext);
         }
     }
-    if (sort_.Sorted) {
+    if (sort_.sorted) {
         SortRows();
     }
 }
@@ -77,10 +77,10 @@ const std::wstring& WelcomeFileTypes::Row::Text(int column) const {
 
 int CALLBACK WelcomeFileTypes::CompareRows(LPARAM first, LPARAM second, LPARAM self) {
     const auto& list = *reinterpret_cast<const WelcomeFileTypes*>(self);
-    const int column = list.sort_.SortKey;
+    const int column = list.sort_.sortKey;
     const int order = lstrcmpiW(list.rows_.at(static_cast<size_t>(first)).Text(column).c_str(),
                                 list.rows_.at(static_cast<size_t>(second)).Text(column).c_str());
-    return list.sort_.SortOrder == MatchesSortOrder::Descending ? -order : order;
+    return list.sort_.sortOrder == MatchesSortOrder::Descending ? -order : order;
 }
 
 void WelcomeFileTypes::SortRows() {

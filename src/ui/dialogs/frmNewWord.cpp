@@ -25,7 +25,7 @@ void frmNewWord::OnCommand(int id, int code, HWND control) {
     if (id == IDC_NEWWORD_BROWSE && code == BN_CLICKED) {
         cmdBrowse_Click();
     } else if (code == EN_SETFOCUS && (control == txtWord || control == txtFilename)) {
-        HighlightControl(control);  // txtWord_GotFocus, txtFilename_GotFocus
+        HighlightControl(control);
     } else if (code == EN_KILLFOCUS && (control == txtWord || control == txtFilename)) {
         UnhighlightControl(control);
     }

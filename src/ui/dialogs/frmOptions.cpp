@@ -126,7 +126,7 @@ void frmOptions::ShowPage() {
 
 void frmOptions::OnCommand(int id, int code, HWND control) {
     if (id == IDC_OPTIONS_HELP && code == BN_CLICKED) {
-        services_.help.ShowTopic(kPageHelp[static_cast<size_t>(currentPage_)]);  // cmdHelp_Click
+        services_.help.ShowTopic(kPageHelp[static_cast<size_t>(currentPage_)]);
         return;
     }
     for (int i = 0; i < kOptionsPageCount; ++i) {

@@ -127,7 +127,7 @@ void HelpViewer::Close() {
 LRESULT HelpViewer::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_SETFOCUS:
-            SetFocus(txtTopic);
+            SetFocus(txtTopic_);
             return 0;
         case WM_GETMINMAXINFO: {
             auto* limits = reinterpret_cast<MINMAXINFO*>(lParam);
@@ -142,21 +142,21 @@ LRESULT HelpViewer::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 bool HelpViewer::OnCreate(const CREATESTRUCTW&) {
-    txtTopic = CreateControl(hwnd(), MSFTEDIT_CLASS, "",
-                             WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL, kTextId);
-    SendMessageW(txtTopic, EM_SETBKGNDCOLOR, TRUE, 0);  // the system's window colour
+    txtTopic_ = CreateControl(hwnd(), MSFTEDIT_CLASS, "",
+                              WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL, kTextId);
+    SendMessageW(txtTopic_, EM_SETBKGNDCOLOR, TRUE, 0);  // the system's window colour
     return true;
 }
 
 void HelpViewer::OnSize(UINT, int width, int height) {
-    MoveWindow(txtTopic, 0, 0, width, height, TRUE);
+    MoveWindow(txtTopic_, 0, 0, width, height, TRUE);
     // Inset the text rather than the box, so that the scroll bar stays at the window's edge.
     const int margin = ScaleForDpi(kMarginPixels, WindowDpi(hwnd()));
     RECT text{};
-    GetClientRect(txtTopic, &text);
+    GetClientRect(txtTopic_, &text);
     InflateRect(&text, -margin, -margin);
-    SendMessageW(txtTopic, EM_SETRECT, 0, reinterpret_cast<LPARAM>(&text));
-    InvalidateRect(txtTopic, nullptr, TRUE);
+    SendMessageW(txtTopic_, EM_SETRECT, 0, reinterpret_cast<LPARAM>(&text));
+    InvalidateRect(txtTopic_, nullptr, TRUE);
 }
 
 void HelpViewer::SetTopicText(const HelpTopic& topic) {
@@ -174,30 +174,30 @@ void HelpViewer::SetTopicText(const HelpTopic& topic) {
         ranges.push_back({start, static_cast<LONG>(text.size()), block.kind});
     }
     SETTEXTEX mode{ST_DEFAULT, 1200};  // 1200: the text is UTF-16
-    SendMessageW(txtTopic, EM_SETTEXTEX, reinterpret_cast<WPARAM>(&mode),
+    SendMessageW(txtTopic_, EM_SETTEXTEX, reinterpret_cast<WPARAM>(&mode),
                  reinterpret_cast<LPARAM>(text.c_str()));
 
-    Select(txtTopic, 0, -1);
-    SetCharFormat(txtTopic, kBodyHeight, false);
-    Select(txtTopic, 0, static_cast<LONG>(title.size()));
-    SetCharFormat(txtTopic, kTitleHeight, true);
-    SetParaFormat(txtTopic, ParagraphFormat(0, 160));
+    Select(txtTopic_, 0, -1);
+    SetCharFormat(txtTopic_, kBodyHeight, false);
+    Select(txtTopic_, 0, static_cast<LONG>(title.size()));
+    SetCharFormat(txtTopic_, kTitleHeight, true);
+    SetParaFormat(txtTopic_, ParagraphFormat(0, 160));
     for (size_t i = 0; i < ranges.size(); ++i) {
         const TextRange& range = ranges[i];
-        Select(txtTopic, range.start, range.end);
+        Select(txtTopic_, range.start, range.end);
         if (range.kind == HelpBlockKind::Heading) {
-            SetParaFormat(txtTopic, ParagraphFormat(160, 40));
-            SetCharFormat(txtTopic, kHeadingHeight, true);
+            SetParaFormat(txtTopic_, ParagraphFormat(160, 40));
+            SetCharFormat(txtTopic_, kHeadingHeight, true);
         } else if (range.kind == HelpBlockKind::Bullet) {
             // The last item of a list is followed by a paragraph's space.
             const bool last = i + 1 < ranges.size() && ranges[i + 1].kind != HelpBlockKind::Bullet;
-            SetParaFormat(txtTopic, BulletFormat(last ? 100 : 60));
+            SetParaFormat(txtTopic_, BulletFormat(last ? 100 : 60));
         } else {
-            SetParaFormat(txtTopic, ParagraphFormat(0, 100));
+            SetParaFormat(txtTopic_, ParagraphFormat(0, 100));
         }
     }
-    Select(txtTopic, 0, 0);
-    SendMessageW(txtTopic, WM_VSCROLL, SB_TOP, 0);
+    Select(txtTopic_, 0, 0);
+    SendMessageW(txtTopic_, WM_VSCROLL, SB_TOP, 0);
 }
 
 }  // namespace quorin

@@ -30,7 +30,7 @@ class HelpViewer final : public Window {
   private:
     void SetTopicText(const HelpTopic& topic);
 
-    HWND txtTopic = nullptr;
+    HWND txtTopic_ = nullptr;
 };
 
 }  // namespace quorin

@@ -11,7 +11,7 @@ namespace quorin {
 // clang-format off
 std::span<const MainDesign::Control> MainDesign::Controls() {
     static const Control kControls[] = {
-        {&frmMain::lblEnterWord, kGoPanel, WC_STATICW, "Enter word:", 0, -1, {120, 165, 960, 225}},
+        {&frmMain::lblEnterWord_, kGoPanel, WC_STATICW, "Enter word:", 0, -1, {120, 165, 960, 225}},
         {nullptr /* cmdGo */, kGoPanel, WC_BUTTONW, "Go", BS_DEFPUSHBUTTON | WS_TABSTOP, kIdGo, {4200, 90, 900, 375}},
         {&frmMain::lblFile, kGoPanel, WC_STATICW, "", SS_LEFTNOWORDWRAP | SS_NOPREFIX, kIdFile, {1080, 540, 4020, 225}},
         {&frmMain::ProgressBar1, kGoPanel, PROGRESS_CLASSW, "", 0, kIdSearchProgress, {1080, 570, 3000, 165}},
@@ -20,7 +20,7 @@ std::span<const MainDesign::Control> MainDesign::Controls() {
         {&frmMain::lblUpdateInterval, kIndexPanel, WC_STATICW, "Index automatically updated every 1 day(s).", 0,
          kIdUpdateInterval, {120, 345, 5000, 225}},
         // Right of "Update Index Now", the panel's one free line.
-        {&frmMain::lblIndexSummary, kIndexPanel, WC_STATICW, "", SS_LEFTNOWORDWRAP | SS_NOPREFIX, kIdIndexSummary,
+        {&frmMain::lblIndexSummary_, kIndexPanel, WC_STATICW, "", SS_LEFTNOWORDWRAP | SS_NOPREFIX, kIdIndexSummary,
          {1800, 600, 3480, 225}},
         {nullptr /* lblShutdown */, kExitPanel, WC_STATICW, "Please wait while Quorin shuts down...", SS_CENTER, -1,
          {0, 330, 5280, 225}},
@@ -40,7 +40,7 @@ std::span<const MainDesign::Control> MainDesign::Controls() {
 std::span<const MainDesign::Link> MainDesign::Links() {
     static const Link kLinks[] = {
         {nullptr /* lnkUpdate */, kIndexPanel, kIdUpdate, "Update Index Now", 120, 600},
-        {&frmMain::lnkFoldersLeftOut, kIndexPanel, kIdFoldersLeftOut, "", 1800, 600},
+        {&frmMain::lnkFoldersLeftOut_, kIndexPanel, kIdFoldersLeftOut, "", 1800, 600},
         {nullptr /* lnkGeneralOptions */, kOptionsPanel, kIdGeneralOptions, "General Options", 120, 90},
         {nullptr /* lnkFileTypes */, kOptionsPanel, kIdFileTypes, "Change file types that are indexed", 120, 345},
         {nullptr /* lnkWords */, kOptionsPanel, kIdWords, "Add/delete assigned words", 120, 600},

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "ui/RememberedPlace.h"
+
 // Section "Main" of the settings store: where the program lives, its version, the main window's
 // place, the hotkey and the first start. Each key is spelled here once.
 namespace quorin::MainSettings {
@@ -16,6 +18,9 @@ inline constexpr std::string_view kConfigured = "Configured";
 inline constexpr std::string_view kStartX = "StartX";
 inline constexpr std::string_view kStartY = "StartY";
 inline constexpr std::string_view kStartDpi = "StartDpi";
+// Where the main window comes back from the tray.
+inline constexpr PlaceKeys kStartPlace{
+    .section = kSection, .left = kStartX, .top = kStartY, .dpi = kStartDpi};
 inline constexpr std::string_view kHotkey = "Hotkey";
 
 }  // namespace quorin::MainSettings

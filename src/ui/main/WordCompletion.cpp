@@ -9,14 +9,14 @@ constexpr int kDelete = 46;
 
 void WordCompletion::KeyDown(int keyCode) {
     if (keyCode == kBackspace || keyCode == kDelete) {
-        bSkipComplete_ = true;
+        bSkipComplete = true;
     }
 }
 
 std::optional<CompletionEdit> WordCompletion::Change(std::string_view text, int caret,
                                                      const EntryFinder& findEntry) {
-    if (bSkipComplete_) {
-        bSkipComplete_ = false;
+    if (bSkipComplete) {
+        bSkipComplete = false;
         return std::nullopt;
     }
     std::optional<std::string> entry = findEntry(text);

@@ -26,7 +26,7 @@ class WordCompletion {
                                          const EntryFinder& findEntry);
 
   private:
-    bool bSkipComplete_ = false;
+    bool bSkipComplete = false;
 };
 
 }  // namespace quorin

@@ -63,7 +63,7 @@ void frmMain::Form_Load() {
     services_.help.Setup(hwnd());
     CreateControls();
     LayOut();
-    startPlace_.Load(services_.settings, hwnd(), dpi_);
+    startPlace_.Load(services_.settings, CentredOnScreen(hwnd(), dpi_), {}, dpi_);
     startPlace_.MoveTo(hwnd(), dpi_, SWP_NOACTIVATE);
     AddWords();
     // Let the word list and the layout settle before the icon invites the first click.
@@ -101,10 +101,10 @@ void frmMain::CreatePanelControls() {
         }
     }
     // Screen readers name the word box by the label just before it in the tab order.
-    SetWindowPos(cboWord.hwnd(), lblEnterWord, 0, 0, 0, 0,
+    SetWindowPos(cboWord.hwnd(), lblEnterWord_, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     ShowWindow(ProgressBar1, SW_HIDE);
-    ShowWindow(lnkFoldersLeftOut->hwnd(), SW_HIDE);
+    ShowWindow(lnkFoldersLeftOut_->hwnd(), SW_HIDE);
     progressPanel_.Attach(picPanel);
 }
 
@@ -135,7 +135,7 @@ void frmMain::LayOut() {
 
 // Where the font draws "Enter word:" wider than its place, the word box gives way on its left.
 void frmMain::KeepWordBoxClear() {
-    const int left = ClearOfText(lblEnterWord);
+    const int left = ClearOfText(lblEnterWord_);
     const RECT box = Window::RectInParent(cboWord.hwnd());
     if (left > box.left) {
         SetWindowPos(cboWord.hwnd(), nullptr, left, box.top, box.right - left,
@@ -225,7 +225,7 @@ void frmMain::Hide() {
 LRESULT frmMain::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case kWordKeyDown:
-            cboWord.KeyDown(static_cast<int>(wParam));  // cboWord_KeyDown
+            cboWord.KeyDown(static_cast<int>(wParam));
             return 0;
         case WM_MOUSEMOVE:
             Form_MouseMove(wParam, lParam);
@@ -322,11 +322,11 @@ void frmMain::OnCommand(int id, int code, HWND) {
 void frmMain::cboWord_Command(int code) {
     if (code == CBN_EDITCHANGE) {
         SetText(lblFile, "");  // what Go said was about the word before
-        cboWord.Change();      // cboWord_Change
+        cboWord.Change();
     } else if (code == CBN_SETFOCUS) {
-        HighlightControl(cboWord.hwnd());  // cboWord_GotFocus
+        HighlightControl(cboWord.hwnd());
     } else if (code == CBN_KILLFOCUS) {
-        UnhighlightControl(cboWord.hwnd());  // cboWord_LostFocus
+        UnhighlightControl(cboWord.hwnd());
     }
 }
 
@@ -468,9 +468,9 @@ void frmMain::UpdateIndexPanel() {
                                    std::to_string(index.UpdateInterval) + " hour(s).");
     const IndexSummary summary =
         SummarizeIndex(index.FolderCount(), index.ItemCount(), index.FoldersLeftOut());
-    SetText(lblIndexSummary, summary.linksToAllFolders ? "" : summary.text);
-    lnkFoldersLeftOut->SetCaption(summary.linksToAllFolders ? summary.text : "");
-    ShowWindow(lnkFoldersLeftOut->hwnd(), summary.linksToAllFolders ? SW_SHOW : SW_HIDE);
+    SetText(lblIndexSummary_, summary.linksToAllFolders ? "" : summary.text);
+    lnkFoldersLeftOut_->SetCaption(summary.linksToAllFolders ? summary.text : "");
+    ShowWindow(lnkFoldersLeftOut_->hwnd(), summary.linksToAllFolders ? SW_SHOW : SW_HIDE);
 }
 
 void frmMain::cmdGo_Click() {

@@ -17,6 +17,7 @@
 #include "platform/Shell.h"
 #include "platform/WinHandles.h"
 #include "ui/PacedProgress.h"
+#include "ui/RememberedPlace.h"
 #include "ui/Window.h"
 #include "ui/controls/TabRow.h"
 #include "ui/controls/ctlLinkLabel.h"
@@ -25,10 +26,10 @@
 #include "ui/main/HotkeyTarget.h"
 #include "ui/main/MainBuilds.h"
 #include "ui/main/MainPanels.h"
+#include "ui/main/MainSettings.h"
 #include "ui/main/MatchesOpener.h"
 #include "ui/main/OptionsOpener.h"
 #include "ui/main/ProgressPanel.h"
-#include "ui/main/RememberedPlace.h"
 #include "ui/main/TrayMenu.h"
 #include "ui/main/WordBox.h"
 #include "ui/main/clsSysTray.h"
@@ -177,7 +178,7 @@ class frmMain final : public Window,
     int dpi_ = 96;
     MainPanels picPanel;
     TabRow tabLabel;
-    HWND lblEnterWord = nullptr;
+    HWND lblEnterWord_ = nullptr;
     WordBox cboWord;
     HWND lblFile = nullptr;
     HWND ProgressBar1 = nullptr;
@@ -185,15 +186,15 @@ class frmMain final : public Window,
     HWND lblLastUpdated = nullptr;
     HWND lblUpdateInterval = nullptr;
     // What the index holds; with folders left out, the link to "Index every folder" instead.
-    HWND lblIndexSummary = nullptr;
-    ctlLinkLabel* lnkFoldersLeftOut = nullptr;
+    HWND lblIndexSummary_ = nullptr;
+    ctlLinkLabel* lnkFoldersLeftOut_ = nullptr;
     ProgressPanel progressPanel_;
     TrayMenu mnuSystray{kIdMenuGo, kIdMenuExit};
     UniqueFont font_;
     UniqueIcon icon_;
     UniqueIcon indexingIcon_;
     int currentTab_ = 0;
-    RememberedPlace startPlace_;
+    RememberedPlace startPlace_{MainSettings::kStartPlace};
     GlobalHotkey hotkey_;
     bool unloaded_ = false;
     UINT taskbarCreated_ = 0;

@@ -3,14 +3,14 @@
 namespace quorin {
 
 void MatchesSort::ColumnClick(int column) {
-    if (column == SortKey) {
-        SortOrder = SortOrder == MatchesSortOrder::Ascending ? MatchesSortOrder::Descending
+    if (column == sortKey) {
+        sortOrder = sortOrder == MatchesSortOrder::Ascending ? MatchesSortOrder::Descending
                                                              : MatchesSortOrder::Ascending;
     } else {
-        SortKey = column;
-        SortOrder = MatchesSortOrder::Ascending;
+        sortKey = column;
+        sortOrder = MatchesSortOrder::Ascending;
     }
-    Sorted = true;
+    sorted = true;
 }
 
 }  // namespace quorin

@@ -10,9 +10,9 @@ struct MatchesSort {
     static constexpr int kName = 0;
     static constexpr int kLocation = 1;
 
-    int SortKey = kName;
-    MatchesSortOrder SortOrder = MatchesSortOrder::Ascending;
-    bool Sorted = false;
+    int sortKey = kName;
+    MatchesSortOrder sortOrder = MatchesSortOrder::Ascending;
+    bool sorted = false;
 
     // The sort key's own column flips the order; another column becomes the key, ascending.
     void ColumnClick(int column);

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "index/clsIndex.h"
-#include "platform/LenientConversions.h"
 #include "platform/Path.h"
 #include "platform/Prompter.h"
 #include "platform/SettingsStore.h"
@@ -17,22 +16,19 @@
 #include "ui/Dpi.h"
 #include "ui/Hourglass.h"
 #include "ui/ListViewColumn.h"
+#include "ui/RememberedPlace.h"
 #include "ui/SmallIconList.h"
 #include "ui/WindowClass.h"
 #include "ui/WindowText.h"
 #include "ui/matches/MatchesLayout.h"
-#include "ui/matches/MatchesPlace.h"
 #include "ui/matches/TypedRow.h"
 
 namespace quorin {
 namespace {
 
 constexpr std::string_view kSection = "Matches";
-// The window's place and size in twips, each key spelled once for saving and reading.
-constexpr std::string_view kLeft = "Left";
-constexpr std::string_view kTop = "Top";
-constexpr std::string_view kWidth = "Width";
-constexpr std::string_view kHeight = "Height";
+constexpr PlaceKeys kPlaceKeys{
+    .section = kSection, .left = "Left", .top = "Top", .width = "Width", .height = "Height"};
 constexpr int kCheckBoxPixels = 20;  // a check box's box and gap before its caption, at 96 DPI
 constexpr int kNameColumnTwips = 2700;
 constexpr int kLocationColumnTwips = 3800;
@@ -217,15 +213,9 @@ TwipsSize frmMatches::AssociateSize() const {
 
 // A minimized window saves its minimized place and size like any other.
 void frmMatches::Form_Unload() {
-    RECT frame{};
-    GetWindowRect(hwnd(), &frame);
-    const auto save = [this](std::string_view key, int pixels) {
-        host_->settings.Save(kSection, key, std::to_string(PixelsToTwips(pixels, dpi_)));
-    };
-    save(kLeft, frame.left);
-    save(kTop, frame.top);
-    save(kWidth, frame.right - frame.left);
-    save(kHeight, frame.bottom - frame.top);
+    RememberedPlace place(kPlaceKeys);
+    place.Store(hwnd());
+    place.Save(host_->settings);
 }
 
 void frmMatches::cmdOpen_Click() {
@@ -369,18 +359,12 @@ void frmMatches::CreateControls() {
 // A saved place is kept inside a monitor's work area, whatever screen or DPI it was saved on;
 // without one the window comes up in the middle of the screen the user typed the word on.
 void frmMatches::RestorePlace() {
-    const auto read = [this](std::string_view key) {
-        // Read as the main window reads its place; anything but a number counts as never saved.
-        return ParseRoundedNumber(host_->settings.Get(kSection, key, "0")).value_or(0);
-    };
-    const int width = read(kWidth);
+    RememberedPlace saved(kPlaceKeys);
+    saved.Load(host_->settings, {}, {}, dpi_);
     RECT place{};
-    if (width >= 1) {
-        const int left = TwipsToPixels(read(kLeft), dpi_);
-        const int top = TwipsToPixels(read(kTop), dpi_);
-        const RECT saved{left, top, left + TwipsToPixels(width, dpi_),
-                         top + TwipsToPixels(read(kHeight), dpi_)};
-        place = KeptInside(saved, WorkAreaNear(saved));
+    if (saved.SizeTwips().cx >= 1) {
+        const RECT pixels = saved.InPixels(dpi_);
+        place = KeptInside(pixels, WorkAreaNear(pixels));
     } else {
         RECT frame{};
         GetWindowRect(hwnd(), &frame);
@@ -462,7 +446,7 @@ void frmMatches::SortRows() {
     const std::optional<int> selected = SelectedRow();
     const std::optional<int32_t> position =
         selected ? std::optional<int32_t>(rows_.Position(*selected)) : std::nullopt;
-    rows_.Sort(sort_.SortKey, sort_.SortOrder);
+    rows_.Sort(sort_.sortKey, sort_.sortOrder);
     if (position) {
         SelectRow(rows_.RowOf(*position).value_or(0));
     }
@@ -476,8 +460,8 @@ void frmMatches::ShowSortArrow() {
         item.mask = HDI_FORMAT;
         Header_GetItem(header, column, &item);
         item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
-        if (sort_.Sorted && column == sort_.SortKey) {
-            item.fmt |= sort_.SortOrder == MatchesSortOrder::Ascending ? HDF_SORTUP : HDF_SORTDOWN;
+        if (sort_.sorted && column == sort_.sortKey) {
+            item.fmt |= sort_.sortOrder == MatchesSortOrder::Ascending ? HDF_SORTUP : HDF_SORTDOWN;
         }
         Header_SetItem(header, column, &item);
     }

@@ -22,7 +22,7 @@
 #include "ui/help/HelpViewer.h"
 #include "ui/main/MainWindowFixture.h"
 #include "ui/matches/frmMatches.h"
-#include "ui/splash/Splash.h"
+#include "ui/splash/frmSplash.h"
 
 namespace quorin::test {
 namespace {

@@ -7,10 +7,10 @@
 #include <utility>
 #include <vector>
 
+#include "ui/RememberedPlace.h"
 #include "ui/main/IndexSummary.h"
 #include "ui/main/MainLayout.h"
 #include "ui/main/ReindexSchedule.h"
-#include "ui/main/RememberedPlace.h"
 #include "ui/main/TrayCallback.h"
 #include "ui/main/TrayRecord.h"
 

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "platform/Text.h"
+#include "ui/RememberedPlace.h"
 #include "ui/matches/MatchRows.h"
 #include "ui/matches/MatchesLayout.h"
-#include "ui/matches/MatchesPlace.h"
 #include "ui/matches/MatchesSort.h"
 #include "ui/matches/TypedRow.h"
 
@@ -31,17 +31,17 @@ TEST(MatchesSortTest, TheSortedColumnFlipsAndAnotherColumnStartsAscending) {
         {MatchesSort::kName, MatchesSort::kName, kUp},
     };
     MatchesSort sort;
-    EXPECT_FALSE(sort.Sorted);
+    EXPECT_FALSE(sort.sorted);
     for (const Step& step : steps) {
         sort.ColumnClick(step.column);
-        EXPECT_TRUE(sort.Sorted);
-        EXPECT_EQ(sort.SortKey, step.key);
-        EXPECT_EQ(sort.SortOrder, step.order);
+        EXPECT_TRUE(sort.sorted);
+        EXPECT_EQ(sort.sortKey, step.key);
+        EXPECT_EQ(sort.sortOrder, step.order);
     }
 
     MatchesSort fresh;
     fresh.ColumnClick(MatchesSort::kLocation);
-    EXPECT_EQ(fresh.SortOrder, kUp);
+    EXPECT_EQ(fresh.sortOrder, kUp);
 }
 
 TEST(MatchesLayoutTest, GrowsTheWidthFirstThenTheHeight) {

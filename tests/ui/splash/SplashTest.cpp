@@ -1,4 +1,4 @@
-#include "ui/splash/Splash.h"
+#include "ui/splash/frmSplash.h"
 
 #include <gtest/gtest.h>
 

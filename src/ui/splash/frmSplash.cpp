@@ -1,4 +1,4 @@
-#include "ui/splash/Splash.h"
+#include "ui/splash/frmSplash.h"
 
 #include "QuorinVersion.h"
 #include "resource.h"
@@ -95,8 +95,8 @@ bool frmSplash::OnCreate(const CREATESTRUCTW&) {
     picture_.reset(
         static_cast<HBITMAP>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDB_SPLASH),
                                         IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
-    lblVersion = CreateControl(hwnd(), L"STATIC", "Version " QUORIN_VERSION_TEXT,
-                               SS_LEFT | SS_NOPREFIX, kSplashVersionId);
+    lblVersion_ = CreateControl(hwnd(), L"STATIC", "Version " QUORIN_VERSION_TEXT,
+                                SS_LEFT | SS_NOPREFIX, kSplashVersionId);
     cmdOK = CreateControl(hwnd(), L"BUTTON", "OK", WS_TABSTOP | BS_DEFPUSHBUTTON, kSplashOkId);
     LayOut();
     return true;
@@ -119,13 +119,13 @@ void frmSplash::LayOut() {
     taglineFont_ = CreateTextFont(dpi_, kTaglineHeight, FW_NORMAL);
     // The controls let go of the old font before it is deleted.
     UniqueFont controlFont = CreateTextFont(dpi_, 0, FW_NORMAL);
-    for (HWND control : {lblVersion, cmdOK}) {
+    for (HWND control : {lblVersion_, cmdOK}) {
         SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(controlFont.get()), TRUE);
     }
     controlFont_ = std::move(controlFont);
     const auto scale = [this](int pixels) { return ScaleForDpi(pixels, dpi_); };
     const int bandHeight = kClientHeight - kPictureHeight;
-    MoveWindow(lblVersion, scale(kBandMargin),
+    MoveWindow(lblVersion_, scale(kBandMargin),
                scale(kPictureHeight + (bandHeight - kCaptionHeight) / 2), scale(200),
                scale(kCaptionHeight), TRUE);
     MoveWindow(cmdOK, scale(kClientWidth - kBandMargin - kButtonWidth),

@@ -39,7 +39,7 @@ class frmSplash final : public Window {
     UniqueFont nameFont_;
     UniqueFont taglineFont_;
     UniqueFont controlFont_;
-    HWND lblVersion = nullptr;
+    HWND lblVersion_ = nullptr;
     HWND cmdOK = nullptr;
 };
 

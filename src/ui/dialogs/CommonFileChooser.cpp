@@ -1,4 +1,4 @@
-#include "ui/dialogs/FileChooser.h"
+#include "ui/dialogs/CommonFileChooser.h"
 
 #include <commdlg.h>
 

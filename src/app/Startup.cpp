@@ -1,4 +1,4 @@
-#include "app/Main.h"
+#include "app/Startup.h"
 
 #include <optional>
 
@@ -7,7 +7,7 @@
 #include "ui/Hourglass.h"
 #include "ui/dialogs/frmWelcome.h"
 #include "ui/main/MainSettings.h"
-#include "ui/splash/Splash.h"
+#include "ui/splash/frmSplash.h"
 
 namespace quorin {
 
