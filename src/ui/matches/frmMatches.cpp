@@ -4,6 +4,7 @@
 #include <windowsx.h>
 
 #include <chrono>
+#include <iterator>
 #include <utility>
 
 #include "index/clsIndex.h"
@@ -30,8 +31,6 @@ constexpr std::string_view kSection = "Matches";
 constexpr PlaceKeys kPlaceKeys{
     .section = kSection, .left = "Left", .top = "Top", .width = "Width", .height = "Height"};
 constexpr int kCheckBoxPixels = 20;  // a check box's box and gap before its caption, at 96 DPI
-constexpr int kNameColumnTwips = 2700;
-constexpr int kLocationColumnTwips = 3800;
 
 // The list's double-click and Enter run once the list view has returned from its notification,
 // since opening a row destroys the list.
@@ -347,9 +346,10 @@ void frmMatches::CreateControls() {
                                  LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
                              kMatchesListId, WS_EX_CLIENTEDGE);
     ListView_SetExtendedListViewStyle(lvwItems, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
-    AddListColumn(lvwItems, MatchesSort::kName, L"Name", TwipsToPixels(kNameColumnTwips, dpi_));
-    AddListColumn(lvwItems, MatchesSort::kLocation, L"Location",
-                  TwipsToPixels(kLocationColumnTwips, dpi_));
+    for (int column = 0; column < std::ssize(kMatchesColumns); ++column) {
+        const MatchesColumn& shown = kMatchesColumns[static_cast<size_t>(column)];
+        AddListColumn(lvwItems, column, shown.title, TwipsToPixels(shown.widthTwips, dpi_));
+    }
     chkAssociate = CreateControl(hwnd(), L"BUTTON", "Always associate this word with this item",
                                  WS_TABSTOP | BS_AUTOCHECKBOX | BS_MULTILINE, kMatchesAssociateId);
     cmdOpen =
@@ -455,7 +455,7 @@ void frmMatches::SortRows() {
 
 void frmMatches::ShowSortArrow() {
     const HWND header = ListView_GetHeader(lvwItems);
-    for (int column : {MatchesSort::kName, MatchesSort::kLocation}) {
+    for (int column = 0; column < std::ssize(kMatchesColumns); ++column) {
         HDITEMW item{};
         item.mask = HDI_FORMAT;
         Header_GetItem(header, column, &item);
