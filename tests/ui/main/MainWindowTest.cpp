@@ -88,15 +88,9 @@ TEST_F(MainWindowTest, LoadsHiddenWithTabsPanelsAndEveryText) {
     EXPECT_EQ(TrayTip(record), "Quorin");
     EXPECT_EQ(record.hWnd, static_cast<uint32_t>(reinterpret_cast<uintptr_t>(Window())));
     EXPECT_NE(record.hIcon, 0u);
-    EXPECT_EQ(trayCalls, (std::vector<std::pair<DWORD, HWND>>{{NIM_ADD, Window()}}));
-}
-
-TEST_F(MainWindowTest, TheIconComesBackWhenExplorerRestarts) {
-    Load();
-    trayCalls.clear();
     SendMessageW(Window(), RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
-    EXPECT_EQ(trayCalls, (std::vector<std::pair<DWORD, HWND>>{{NIM_ADD, Window()}}));
-    EXPECT_EQ(TrayTip(tray.Record()), "Quorin");
+    EXPECT_EQ(trayCalls, (std::vector<std::pair<DWORD, HWND>>(2, {NIM_ADD, Window()})))
+        << "added at load, and again when Explorer restarts";
 }
 
 TEST_F(MainWindowTest, TabsShowTheirPanelsAndTheLinksDoTheirWork) {
@@ -134,11 +128,13 @@ TEST_F(MainWindowTest, TabsShowTheirPanelsAndTheLinksDoTheirWork) {
     EXPECT_EQ(unloads, 0);
 }
 
-TEST_F(MainWindowTest, ExitTabUnloadsSavingThePositionAndRemovingTheEngine) {
+TEST_F(MainWindowTest, ExitTabAndSessionEndUnloadSavingThePositionAndRemovingTheEngine) {
     Load();
     SetWindowPos(Window(), nullptr, 150, 90, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     HWND window = Window();
     index.Get();
+    SendMessageW(Window(), WM_ENDSESSION, FALSE, 0);
+    EXPECT_EQ(unloads, 0) << "another program kept the session going";
     ClickTab(4);
     EXPECT_EQ(unloads, 1);
     EXPECT_FALSE(IsWindow(window));
@@ -147,6 +143,23 @@ TEST_F(MainWindowTest, ExitTabUnloadsSavingThePositionAndRemovingTheEngine) {
     EXPECT_FALSE(index.Exists());
     EXPECT_EQ(settings.Get("Main", "StartX", ""), std::to_string(PixelsToTwips(150, ScreenDpi())));
     EXPECT_EQ(settings.Get("Main", "StartY", ""), std::to_string(PixelsToTwips(90, ScreenDpi())));
+
+    Load();
+    SendMessageW(Window(), WM_ENDSESSION, TRUE, 0);
+    EXPECT_EQ(unloads, 2) << "the session ending while idle unloads at once";
+}
+
+// Each change of the main window's visibility and state, in order: visible, minimised.
+HWND watchedWindow = nullptr;
+std::vector<std::pair<bool, bool>> seenStates;
+
+LRESULT CALLBACK RecordStates(int code, WPARAM wParam, LPARAM lParam) {
+    const auto* call = reinterpret_cast<const CWPRETSTRUCT*>(lParam);
+    if (code == HC_ACTION && call->hwnd == watchedWindow && call->message == WM_WINDOWPOSCHANGED) {
+        seenStates.emplace_back(IsWindowVisible(call->hwnd) != FALSE,
+                                IsIconic(call->hwnd) != FALSE);
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
 TEST_F(MainWindowTest, CloseAndMinimiseHideAndTheTrayBringsTheWindowBackInPlace) {
@@ -171,10 +184,17 @@ TEST_F(MainWindowTest, CloseAndMinimiseHideAndTheTrayBringsTheWindowBackInPlace)
     Tray(WM_LBUTTONUP);
     ASSERT_TRUE(IsWindowVisible(Window()));
     SetWindowPos(Window(), nullptr, 200, 120, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    watchedWindow = Window();
+    const HHOOK hook =
+        SetWindowsHookExW(WH_CALLWNDPROCRET, RecordStates, nullptr, GetCurrentThreadId());
     SendMessageW(Window(), WM_CLOSE, 0, 0);
+    UnhookWindowsHookEx(hook);
+    ASSERT_FALSE(seenStates.empty());
+    EXPECT_EQ(seenStates.front(), std::make_pair(false, false))
+        << "hidden first, so that no minimise animation plays";
     EXPECT_FALSE(IsWindowVisible(Window()));
-    EXPECT_TRUE(IsWindow(Window())) << "the close box only hides";
-    EXPECT_EQ(unloads, 0);
+    EXPECT_TRUE(IsIconic(Window()));
+    EXPECT_EQ(unloads, 0) << "the close box only hides";
 
     Tray(WM_LBUTTONDBLCLK);
     EXPECT_TRUE(IsWindowVisible(Window()));
@@ -189,137 +209,89 @@ TEST_F(MainWindowTest, CloseAndMinimiseHideAndTheTrayBringsTheWindowBackInPlace)
     SendMessageW(Window(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
     EXPECT_FALSE(IsWindowVisible(Window()));
     SendMessageW(Window(), WM_CLOSE, 0, 0);  // while minimised: the position is kept
-    Tray(WM_LBUTTONUP);
-    EXPECT_TRUE(IsWindowVisible(Window()));
-    EXPECT_FALSE(IsIconic(Window()));
-
-    SendMessageW(Window(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
     form->Unload();
     EXPECT_EQ(settings.Get("Main", "StartX", ""), std::to_string(PixelsToTwips(200, dpi)))
         << "the position stored at the last close before minimising";
 }
 
-// Each change of the main window's visibility and state, in order: visible, minimised.
-HWND watchedWindow = nullptr;
-std::vector<std::pair<bool, bool>> seenStates;
-
-LRESULT CALLBACK RecordStates(int code, WPARAM wParam, LPARAM lParam) {
-    const auto* call = reinterpret_cast<const CWPRETSTRUCT*>(lParam);
-    if (code == HC_ACTION && call->hwnd == watchedWindow && call->message == WM_WINDOWPOSCHANGED) {
-        seenStates.emplace_back(IsWindowVisible(call->hwnd) != FALSE,
-                                IsIconic(call->hwnd) != FALSE);
-    }
-    return CallNextHookEx(nullptr, code, wParam, lParam);
-}
-
-TEST_F(MainWindowTest, TheCloseBoxHidesTheWindowBeforeItIsMinimised) {
-    Load();
-    form->Show();
-    watchedWindow = Window();
-    const HHOOK hook =
-        SetWindowsHookExW(WH_CALLWNDPROCRET, RecordStates, nullptr, GetCurrentThreadId());
-    SendMessageW(Window(), WM_CLOSE, 0, 0);
-    UnhookWindowsHookEx(hook);
-    ASSERT_FALSE(seenStates.empty());
-    EXPECT_EQ(seenStates.front(), std::make_pair(false, false))
-        << "hidden first, so that no minimise animation plays";
-    EXPECT_FALSE(IsWindowVisible(Window()));
-    EXPECT_TRUE(IsIconic(Window()));
-}
-
 // However the window comes up after it was minimised, closed or escaped, it is in front and the
 // keys typed next reach its word box: a window still active when it went away gets no WM_ACTIVATE.
+// Each way down and each way up once (every way down leaves it hidden and minimised, and every
+// way up ends in one helper), with the pair that once lost the focus first.
 TEST_F(MainWindowTest, EveryWayUpLeavesTheWordBoxWithTheKeysInAWindowInFront) {
     Load();
     using Step = std::pair<const char*, std::function<void()>>;
-    const Step before[] = {
-        {"minimised", [&] { SendMessageW(Window(), WM_SYSCOMMAND, SC_MINIMIZE, 0); }},
-        {"closed", [&] { SendMessageW(Window(), WM_CLOSE, 0, 0); }},
-        {"escaped",
-         [&] {
-             PostMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 0);
-             events.pump.DoEvents();
-         }},
+    const std::pair<Step, Step> cases[] = {
+        {{"minimised", [&] { SendMessageW(Window(), WM_SYSCOMMAND, SC_MINIMIZE, 0); }},
+         {"tray click", [&] { Tray(WM_LBUTTONUP); }}},
+        {{"closed", [&] { SendMessageW(Window(), WM_CLOSE, 0, 0); }},
+         {"tray menu Go", [&] { Command(kIdMenuGo); }}},
+        {{"escaped",
+          [&] {
+              PostMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 0);
+              events.pump.DoEvents();
+          }},
+         {"hotkey", [&] { SendMessageW(Window(), WM_HOTKEY, GlobalHotkey::kId, 0); }}},
     };
-    const Step ways[] = {
-        {"tray click", [&] { Tray(WM_LBUTTONUP); }},
-        {"tray menu Go", [&] { Command(kIdMenuGo); }},
-        {"hotkey", [&] { SendMessageW(Window(), WM_HOTKEY, GlobalHotkey::kId, 0); }},
-    };
-    for (const auto& [state, leave] : before) {
-        for (const auto& [way, bringUp] : ways) {
-            form->Show();
-            SetForegroundWindow(Window());
-            SetFocus(Control(kIdWord));
-            leave();
-            EXPECT_FALSE(IsWindowVisible(Window())) << state;
-            bringUp();
-            EXPECT_EQ(GetForegroundWindow(), Window()) << state << ", then " << way;
-            EXPECT_TRUE(IsChild(Control(kIdWord), GetFocus())) << state << ", then " << way;
-        }
+    for (const auto& [down, up] : cases) {
+        form->Show();
+        SetForegroundWindow(Window());
+        SetFocus(Control(kIdWord));
+        down.second();
+        EXPECT_FALSE(IsWindowVisible(Window())) << down.first;
+        up.second();
+        EXPECT_TRUE(IsWindowVisible(Window()) && !IsIconic(Window())) << down.first;
+        EXPECT_EQ(GetForegroundWindow(), Window()) << down.first << ", then " << up.first;
+        EXPECT_TRUE(IsChild(Control(kIdWord), GetFocus())) << down.first << ", then " << up.first;
     }
     EXPECT_EQ(unloads, 0) << "each only hides";
 }
 
-TEST_F(MainWindowTest, ReactivatedOnAnotherPanelTheWindowKeepsKeysAwayFromTheHiddenWordBox) {
-    Load();
-    form->Show();
-    ClickTab(3);
-    SetFocus(Window());
-    SendMessageW(Window(), WM_ACTIVATE, WA_ACTIVE, 0);
-    const HWND focus = GetFocus();
-    EXPECT_NE(focus, Control(kIdWord));
-    EXPECT_NE(GetParent(focus), Control(kIdWord)) << "not the word box's edit field either";
-
-    ClickTab(0);
-    SetFocus(Window());
-    SendMessageW(Window(), WM_ACTIVATE, WA_ACTIVE, 0);
-    EXPECT_EQ(GetParent(GetFocus()), Control(kIdWord)) << "on the Go panel the box takes it";
-}
-
-TEST_F(MainWindowTest, CtrlTabGoesRoundThePanelsButNeverToExit) {
+TEST_F(MainWindowTest, TheKeysGoRoundPanelsAndLinksAndNeverReachAHiddenWordBox) {
     Load();
     form->Show();
     SetForegroundWindow(Window());
-    const auto press = [this](bool shift) {
+    const auto press = [this](WPARAM key, bool ctrl = false, bool shift = false) {
         BYTE keys[256] = {};
         GetKeyboardState(keys);
-        keys[VK_CONTROL] = 0x80;
+        keys[VK_CONTROL] = ctrl ? 0x80 : 0;
         keys[VK_SHIFT] = shift ? 0x80 : 0;
         SetKeyboardState(keys);
-        PostMessageW(GetFocus() != nullptr ? GetFocus() : Window(), WM_KEYDOWN, VK_TAB, 0);
+        const HWND target = GetFocus() != nullptr ? GetFocus() : Window();
+        PostMessageW(target, WM_KEYDOWN, key, 0);
+        PostMessageW(target, WM_KEYUP, key, 0);
         events.pump.DoEvents();
         keys[VK_CONTROL] = 0;
         keys[VK_SHIFT] = 0;
         SetKeyboardState(keys);
         return form->CurrentTab();
     };
-    EXPECT_EQ(press(false), 1);
+    EXPECT_EQ(press(VK_TAB, true), 1);
     EXPECT_EQ(PanelsShown(), (std::vector<bool>{false, true, false, false, false, false}));
-    EXPECT_EQ(press(false), 2);
-    EXPECT_EQ(press(false), 3);
-    EXPECT_EQ(press(false), 0) << "from Help round to Go, past Exit";
-    EXPECT_EQ(press(true), 3);
+    EXPECT_EQ(press(VK_TAB, true), 2);
+    EXPECT_EQ(press(VK_TAB, true), 3);
+    EXPECT_EQ(press(VK_TAB, true), 0) << "from Help round to Go, past Exit";
+    EXPECT_EQ(press(VK_TAB, true, true), 3);
     EXPECT_EQ(unloads, 0);
-}
 
-TEST_F(MainWindowTest, TabReachesThePanelsLinksAndEnterOpensTheFocusedOne) {
-    Load();
-    form->Show();
-    SetForegroundWindow(Window());
+    SetFocus(Window());
+    SendMessageW(Window(), WM_ACTIVATE, WA_ACTIVE, 0);
+    EXPECT_NE(GetFocus(), Control(kIdWord)) << "reactivated on Help";
+    EXPECT_NE(GetParent(GetFocus()), Control(kIdWord)) << "not the word box's edit field either";
+
     ClickTab(2);
     SetFocus(Control(kIdGeneralOptions));
-    const auto press = [this](WPARAM key) {
-        PostMessageW(GetFocus(), WM_KEYDOWN, key, 0);
-        PostMessageW(GetFocus(), WM_KEYUP, key, 0);
-        events.pump.DoEvents();
-    };
     press(VK_TAB);
     EXPECT_EQ(GetFocus(), Control(kIdFileTypes));
     press(VK_RETURN);
     press(VK_TAB);
     press(VK_SPACE);
     EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes, kOptionsWords}));
+
+    ClickTab(0);
+    SetFocus(Window());
+    SendMessageW(Window(), WM_ACTIVATE, WA_ACTIVE, 0);
+    EXPECT_EQ(GetParent(GetFocus()), Control(kIdWord)) << "on the Go panel the box takes it";
 }
 
 TEST_F(MainWindowTest, AfterABuildTheIndexPanelSaysWhatItHoldsAndLinksToAllFolders) {
@@ -466,15 +438,6 @@ TEST_F(MainWindowTest, TheSessionEndingDuringABuildCancelsItAndUnloadsOnlyAfterI
     EXPECT_FALSE(std::filesystem::exists(JoinPath(program.Path(), "index.txt")));
 }
 
-TEST_F(MainWindowTest, TheSessionEndingWhileIdleUnloadsAtOnce) {
-    Load();
-    SendMessageW(Window(), WM_ENDSESSION, FALSE, 0);
-    EXPECT_EQ(unloads, 0) << "another program kept the session going";
-    SendMessageW(Window(), WM_ENDSESSION, TRUE, 0);
-    EXPECT_EQ(unloads, 1);
-}
-
-// Which action Go takes is GoCommandTest's; this is the window carrying out each one.
 TEST_F(MainWindowTest, GoCarriesOutEachActionInTheWindow) {
     tree.WriteFile("notes.txt", "n");
     tree.WriteFile("alpha1.doc", "a");
@@ -494,7 +457,7 @@ TEST_F(MainWindowTest, GoCarriesOutEachActionInTheWindow) {
                  reinterpret_cast<LPARAM>(Control(kIdWord)));
     EXPECT_EQ(Text(kIdFile), "") << "told until the word changes";
 
-    SetWord("notes");
+    SetWord("Notes");
     Command(kIdGo);
     ASSERT_EQ(shell.opened.size(), 1u);
     EXPECT_EQ(shell.opened[0].file, JoinPath(tree.Path(), "notes.txt"));
@@ -502,7 +465,7 @@ TEST_F(MainWindowTest, GoCarriesOutEachActionInTheWindow) {
     EXPECT_EQ(shell.opened[0].parameters, "");
     EXPECT_EQ(shell.opened[0].showCommand, 5);
     EXPECT_TRUE(IsWindowVisible(Window())) << "one match leaves the window as it is";
-    EXPECT_EQ(Text(kIdWord), "notes");
+    EXPECT_EQ(Text(kIdWord), "Notes");
     EXPECT_FALSE(IsWindowVisible(Control(kIdSearchProgress))) << "the search bar goes again";
 
     SetWord("alpha");
