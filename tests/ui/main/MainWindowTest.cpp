@@ -13,6 +13,7 @@
 #include "ui/FocusColors.h"
 #include "ui/Hourglass.h"
 #include "ui/WindowErrors.h"
+#include "ui/dialogs/DialogTestHelpers.h"
 #include "ui/main/MainWindowFixture.h"
 
 namespace quorin::test {
@@ -169,10 +170,8 @@ TEST_F(MainWindowTest, CloseAndMinimiseHideAndTheTrayBringsTheWindowBackInPlace)
     const int dpi = WindowDpi(Window());
     EXPECT_EQ(ScreenRect(Window()).left, TwipsToPixels(3000, dpi)) << "remembered position";
 
-    // A real mouse move over the window is not a tray click, not even one with the left button
-    // held over its top row, where a wide window (150 % and up) has an x of 514.
-    SendMessageW(Window(), WM_MOUSEMOVE, 0, MAKELPARAM(WM_LBUTTONUP, 0));
-    SendMessageW(Window(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(WM_LBUTTONUP, 3));
+    // A real move with the left button held over the top row of a wide window (150 % and up,
+    // where the row has an x of 514) is not a tray click.
     POINT topRow{WM_LBUTTONUP, 0};
     ClientToScreen(Window(), &topRow);
     SetCursorPos(topRow.x, topRow.y);
@@ -251,27 +250,16 @@ TEST_F(MainWindowTest, TheKeysGoRoundPanelsAndLinksAndNeverReachAHiddenWordBox) 
     Load();
     form->Show();
     SetForegroundWindow(Window());
-    const auto press = [this](WPARAM key, bool ctrl = false, bool shift = false) {
-        BYTE keys[256] = {};
-        GetKeyboardState(keys);
-        keys[VK_CONTROL] = ctrl ? 0x80 : 0;
-        keys[VK_SHIFT] = shift ? 0x80 : 0;
-        SetKeyboardState(keys);
-        const HWND target = GetFocus() != nullptr ? GetFocus() : Window();
-        PostMessageW(target, WM_KEYDOWN, key, 0);
-        PostMessageW(target, WM_KEYUP, key, 0);
-        events.pump.DoEvents();
-        keys[VK_CONTROL] = 0;
-        keys[VK_SHIFT] = 0;
-        SetKeyboardState(keys);
+    const auto ctrlTab = [this](std::initializer_list<BYTE> held) {
+        PressKey(VK_TAB, held);
         return form->CurrentTab();
     };
-    EXPECT_EQ(press(VK_TAB, true), 1);
+    EXPECT_EQ(ctrlTab({VK_CONTROL}), 1);
     EXPECT_EQ(PanelsShown(), (std::vector<bool>{false, true, false, false, false, false}));
-    EXPECT_EQ(press(VK_TAB, true), 2);
-    EXPECT_EQ(press(VK_TAB, true), 3);
-    EXPECT_EQ(press(VK_TAB, true), 0) << "from Help round to Go, past Exit";
-    EXPECT_EQ(press(VK_TAB, true, true), 3);
+    EXPECT_EQ(ctrlTab({VK_CONTROL}), 2);
+    EXPECT_EQ(ctrlTab({VK_CONTROL}), 3);
+    EXPECT_EQ(ctrlTab({VK_CONTROL}), 0) << "from Help round to Go, past Exit";
+    EXPECT_EQ(ctrlTab({VK_CONTROL, VK_SHIFT}), 3);
     EXPECT_EQ(unloads, 0);
 
     SetFocus(Window());
@@ -281,11 +269,11 @@ TEST_F(MainWindowTest, TheKeysGoRoundPanelsAndLinksAndNeverReachAHiddenWordBox) 
 
     ClickTab(2);
     SetFocus(Control(kIdGeneralOptions));
-    press(VK_TAB);
+    PressKey(VK_TAB);
     EXPECT_EQ(GetFocus(), Control(kIdFileTypes));
-    press(VK_RETURN);
-    press(VK_TAB);
-    press(VK_SPACE);
+    PressKey(VK_RETURN);
+    PressKey(VK_TAB);
+    PressKey(VK_SPACE);
     EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes, kOptionsWords}));
 
     ClickTab(0);
@@ -324,13 +312,20 @@ TEST_F(MainWindowTest, AfterABuildTheIndexPanelSaysWhatItHoldsAndLinksToAllFolde
     EXPECT_FALSE(linkShown());
 }
 
-TEST_F(MainWindowTest, ABuildDisablesTabsShowsProgressOnTopAndRefusesToExit) {
+// Every build, the user's and the timer's, keeps the wait pointer for its whole length.
+TEST_F(MainWindowTest, ABuildDisablesTabsShowsProgressOnTopKeepsTheWaitPointerAndRefusesToExit) {
     tree.WriteFile("docs/a.txt", "a");
     Load();
     std::vector<bool> tabsEnabled;
     bool progressOnTop = false;
     std::string tip;
+    std::vector<bool> waitShown;
+    std::vector<LRESULT> cursorAnswers;
     events.onEvents = [&] {
+        waitShown.push_back(Hourglass::Shown());
+        cursorAnswers.push_back(SendMessageW(Window(), WM_SETCURSOR,
+                                             reinterpret_cast<WPARAM>(Window()),
+                                             MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
         if (!tip.empty()) {
             return;
         }
@@ -362,6 +357,13 @@ TEST_F(MainWindowTest, ABuildDisablesTabsShowsProgressOnTopAndRefusesToExit) {
     EXPECT_TRUE(IsWindowEnabled(Control(kIdTab)));
     EXPECT_EQ(Text(kIdCounter), "Saving...");
 
+    clock.now += 2;
+    SendMessageW(Window(), WM_TIMER, kTimer1Id, 0);
+    ASSERT_EQ(index.Get().LastUpdated, clock.now) << "the timer built too";
+    EXPECT_EQ(waitShown, std::vector<bool>(waitShown.size(), true));
+    EXPECT_EQ(cursorAnswers, std::vector<LRESULT>(cursorAnswers.size(), TRUE));
+    EXPECT_FALSE(Hourglass::Shown());
+
     Command(kIdMenuExit);
     EXPECT_EQ(unloads, 1) << "no build: the exit entry ends the program";
 }
@@ -388,24 +390,6 @@ TEST_F(MainWindowTest, AnIndexThatCannotBeSavedIsToldOnceAndBuiltAgainOnlyAfterA
     SendMessageW(Window(), WM_TIMER, kTimer1Id, 0);
     SetWindowErrorHandler(nullptr);
     EXPECT_EQ(reports.size(), 2u);
-}
-
-TEST_F(MainWindowTest, EveryBuildKeepsTheWaitPointerForItsWholeLength) {
-    Load();
-    std::vector<bool> shown;
-    std::vector<LRESULT> answers;
-    events.onEvents = [&] {
-        shown.push_back(Hourglass::Shown());
-        answers.push_back(SendMessageW(Window(), WM_SETCURSOR, reinterpret_cast<WPARAM>(Window()),
-                                       MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
-    };
-    Build();
-    clock.now += 2;
-    SendMessageW(Window(), WM_TIMER, kTimer1Id, 0);
-    ASSERT_EQ(index.Get().LastUpdated, clock.now) << "the timer built too";
-    EXPECT_EQ(shown, std::vector<bool>(shown.size(), true));
-    EXPECT_EQ(answers, std::vector<LRESULT>(answers.size(), TRUE));
-    EXPECT_FALSE(Hourglass::Shown());
 }
 
 // The build is below the handler on the stack: the engine must outlive it.
