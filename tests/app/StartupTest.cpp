@@ -109,13 +109,6 @@ TEST_F(StartupTest, CancellingTheFirstBuildEndsTheProgram) {
     EXPECT_FALSE(IndexFileExists());
 }
 
-TEST_F(StartupTest, AnExistingIndexAsksNothing) {
-    program.WriteFile("index.txt", "2023-03-14 08:00:00\r\n0\r\n");
-    EXPECT_TRUE(RunMain());
-    EXPECT_TRUE(prompter.boxes.empty());
-    EXPECT_FALSE(IsWindowVisible(startup->MainForm()->hwnd())) << "it waits in the tray";
-}
-
 TEST_F(StartupTest, ABadSettingEndsTheProgramWithOneMessageAndWritesNothing) {
     settings.Save("Index", "Interval", "often");
     program.WriteFile("index.txt", "2023-03-14 08:00:00\r\n0\r\n");
@@ -194,7 +187,8 @@ TEST_F(FirstStartTest, AnInstallationWithAnIndexFromBeforeTheWizardCountsAsConfi
     InWizard([](HWND wizard) { SendMessageW(wizard, WM_CLOSE, 0, 0); });
     EXPECT_TRUE(RunMain());
     EXPECT_EQ(Configured(), "1");
-    EXPECT_TRUE(prompter.boxes.empty());
+    EXPECT_TRUE(prompter.boxes.empty()) << "an existing index asks nothing";
+    EXPECT_FALSE(IsWindowVisible(startup->MainForm()->hwnd())) << "it waits in the tray";
     MessagePump::RunUntil([this] { return looked; });
     EXPECT_FALSE(wizardShown);
 }

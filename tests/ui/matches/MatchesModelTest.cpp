@@ -9,40 +9,10 @@
 #include "ui/matches/MatchRows.h"
 #include "ui/matches/MatchesLayout.h"
 #include "ui/matches/MatchesPlace.h"
-#include "ui/matches/MatchesSort.h"
 #include "ui/matches/TypedRow.h"
 
 namespace quorin {
 namespace {
-
-TEST(MatchesSortTest, TheSortedColumnFlipsAndAnotherColumnStartsAscending) {
-    struct Step {
-        int column;
-        int key;
-        MatchesSortOrder order;
-    };
-    constexpr auto kUp = MatchesSortOrder::Ascending;
-    constexpr auto kDown = MatchesSortOrder::Descending;
-    const Step steps[] = {
-        {MatchesSort::kName, MatchesSort::kName, kDown},  // the very first click on "Name"
-        {MatchesSort::kName, MatchesSort::kName, kUp},
-        {MatchesSort::kLocation, MatchesSort::kLocation, kUp},
-        {MatchesSort::kLocation, MatchesSort::kLocation, kDown},
-        {MatchesSort::kName, MatchesSort::kName, kUp},
-    };
-    MatchesSort sort;
-    EXPECT_FALSE(sort.Sorted);
-    for (const Step& step : steps) {
-        sort.ColumnClick(step.column);
-        EXPECT_TRUE(sort.Sorted);
-        EXPECT_EQ(sort.SortKey, step.key);
-        EXPECT_EQ(sort.SortOrder, step.order);
-    }
-
-    MatchesSort fresh;
-    fresh.ColumnClick(MatchesSort::kLocation);
-    EXPECT_EQ(fresh.SortOrder, kUp);
-}
 
 TEST(MatchesLayoutTest, GrowsTheWidthFirstThenTheHeight) {
     EXPECT_FALSE(MatchesMinimumFix({3000, 3000}));
