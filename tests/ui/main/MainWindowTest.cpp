@@ -2,12 +2,10 @@
 
 #include <filesystem>
 #include <functional>
-#include <set>
 
 #include "platform/FileSystem.h"
 #include "platform/OleDate.h"
 #include "platform/Path.h"
-#include "platform/Text.h"
 #include "support/ReaderNames.h"
 #include "ui/Dpi.h"
 #include "ui/FocusColors.h"
@@ -481,13 +479,6 @@ TEST_F(MainWindowTest, GoCarriesOutEachActionInTheWindow) {
 class CompletionTest : public MainWindowTest {
   protected:
     void SetUp() override { Load(); }
-    void Assign(const std::vector<std::string>& words) {
-        clsIndex& engine = index.Get();
-        for (const std::string& word : words) {
-            engine.AddWord({word, word + ".exe", 0, {}});
-        }
-        form->AddWords();
-    }
     HWND Edit() const { return GetWindow(Control(kIdWord), GW_CHILD); }
     void Type(std::string_view keys) {
         for (const char key : keys) {
@@ -512,10 +503,13 @@ class CompletionTest : public MainWindowTest {
     }
 };
 
-TEST_F(CompletionTest, TypingCompletesWithTheTopEntryAndTheUserCanRemoveTheTail) {
+TEST_F(CompletionTest, TypingCompletesWithTheTopEntryAndFocusSelectsAllInTooltipColours) {
     Type("no");
     EXPECT_EQ(Shown(), "no[]") << "an empty list never completes";
-    Assign({"Notes", "Notepad"});
+    for (const char* word : {"Notes", "Notepad"}) {
+        index.Get().AddWord({word, std::string(word) + ".exe", 0, {}});
+    }
+    form->AddWords();
     SetWord("");
     Type("n");
     EXPECT_EQ(Shown(), "N[otes]") << "the entry's capitalisation, the entry nearer the top";
@@ -537,9 +531,7 @@ TEST_F(CompletionTest, TypingCompletesWithTheTopEntryAndTheUserCanRemoveTheTail)
     form->AddWords();
     EXPECT_EQ(Shown(), "No[tes]") << "reloading the words keeps the text and its selection";
     EXPECT_EQ(SendMessageW(Control(kIdWord), CB_GETCOUNT, 0, 0), 3);
-}
 
-TEST_F(CompletionTest, FocusShowsTheTooltipColoursAndSelectsAll) {
     SetWord("word");
     form->Show();
     SetForegroundWindow(Window());

@@ -24,20 +24,12 @@ std::string WindowsFolder() {
     return Narrow(buffer);
 }
 
-std::string SystemFolder() {
-    return WindowsFolder() + "\\system32";
-}
-
 std::string SystemFile(const std::string& name) {
-    return SystemFolder() + "\\" + name;
+    return WindowsFolder() + "\\system32\\" + name;
 }
 
 UniqueImageList NewList() {
     return UniqueImageList(ImageList_Create(kIconSize, kIconSize, ILC_COLOR32 | ILC_MASK, 0, 4));
-}
-
-int Count(const UniqueImageList& list) {
-    return ImageList_GetImageCount(list.get());
 }
 
 // The image as a list view shows it, over a colour no icon surface has.
@@ -130,24 +122,21 @@ TEST_F(IconExtractorTest, ReadsPathAndIndexFromTheIconLocation) {
     }
 }
 
-TEST_F(IconExtractorTest, AddsABlankImageWhenNothingIsExtracted) {
-    const std::optional<int> self = extractor_.RetrieveExtIcon(".qz1");
-    ASSERT_TRUE(self);
-    EXPECT_TRUE(IsBlank(Draw(large_, *self)));
-
-    const Picture missingFile = IconOf("C:\\nowhere\\none.dll", 0);
-    const Picture missingIcon = IconOf(SystemFile("shell32.dll"), 99999);
-    ASSERT_FALSE(missingFile.empty());
-    EXPECT_TRUE(IsBlank(missingFile));
-    EXPECT_EQ(missingIcon, missingFile);
-}
-
-TEST_F(IconExtractorTest, GivesNothingForTypesWithoutAnIcon) {
+// A type without an icon gets no image; one whose icon cannot be extracted gets a blank one.
+TEST_F(IconExtractorTest, GivesNothingForTypesWithoutAnIconAndABlankForIconsNotExtracted) {
     EXPECT_FALSE(extractor_.RetrieveExtIcon(".qzunregistered"));
     EXPECT_FALSE(extractor_.RetrieveExtIcon(".qzn"));
     EXPECT_FALSE(extractor_.RetrieveFileIcon("readme", "C:\\"));
-    EXPECT_EQ(Count(small_), 0);
-    EXPECT_EQ(Count(large_), 0);
+    EXPECT_EQ(ImageList_GetImageCount(large_.get()), 0);
+
+    const std::optional<int> self = extractor_.RetrieveExtIcon(".qz1");
+    ASSERT_TRUE(self);
+    EXPECT_TRUE(IsBlank(Draw(large_, *self)));
+    const Picture missingFile = IconOf("C:\\nowhere\\none.dll", 0);
+    ASSERT_FALSE(missingFile.empty());
+    EXPECT_TRUE(IsBlank(missingFile));
+    EXPECT_EQ(IconOf(SystemFile("shell32.dll"), 99999), missingFile);
+    EXPECT_EQ(ImageList_GetImageCount(small_.get()), 3);
 }
 
 TEST_F(IconExtractorTest, EveryRequestAddsTheSameImageToBothLists) {
@@ -155,8 +144,8 @@ TEST_F(IconExtractorTest, EveryRequestAddsTheSameImageToBothLists) {
     EXPECT_EQ(extractor_.RetrieveExtIcon(".qzt"), 1);
     EXPECT_EQ(extractor_.RetrieveExtIcon(".q~"), 2);
 
-    ASSERT_EQ(Count(small_), 3);
-    ASSERT_EQ(Count(large_), 3);
+    ASSERT_EQ(ImageList_GetImageCount(small_.get()), 3);
+    ASSERT_EQ(ImageList_GetImageCount(large_.get()), 3);
     EXPECT_EQ(Draw(large_, 1), Draw(large_, 0));
     for (int index = 0; index < 3; ++index) {
         EXPECT_EQ(Draw(small_, index), Draw(large_, index));
@@ -175,7 +164,7 @@ TEST_F(IconExtractorTest, LooksFilesUpByTheirLastFourCharacters) {
 }
 
 TEST_F(IconExtractorTest, OnlyALowerCaseExeIsAProgramWithItsOwnIcon) {
-    const std::string system = SystemFolder();
+    const std::string system = WindowsFolder() + "\\system32";
     const Picture own = IconOf(SystemFile("notepad.exe"), 0);
     ASSERT_FALSE(IsBlank(own));
 
@@ -192,8 +181,8 @@ TEST_F(IconExtractorTest, ReturnsTheIndexOfTheListSetAsLarge) {
 
     EXPECT_EQ(smallOnly.RetrieveExtIcon(".qzt"), 0);
     EXPECT_EQ(extractor_.RetrieveExtIcon(".qzt"), 0);  // the small list got it as 1
-    EXPECT_EQ(Count(small_), 2);
-    EXPECT_EQ(Count(large_), 1);
+    EXPECT_EQ(ImageList_GetImageCount(small_.get()), 2);
+    EXPECT_EQ(ImageList_GetImageCount(large_.get()), 1);
     EXPECT_FALSE(unset.RetrieveExtIcon(".qzt"));
 }
 
