@@ -166,20 +166,22 @@ TEST_F(FirstStartTest, TheWizardsFinishBuildsTheIndexAndTheProgramRunsFromTheTra
 
 TEST_F(FirstStartTest, ACancelledOrClosedWizardEndsTheProgramAndComesBackNextTime) {
     prompter.answers = {PromptAnswer::Yes};
-    InWizard([](HWND wizard) { ClickItem(wizard, IDC_WELCOME_CANCEL); });
-    EXPECT_FALSE(RunMain());
-    EXPECT_TRUE(wizardShown);
-    EXPECT_EQ(startup->MainForm(), nullptr);
-    EXPECT_FALSE(IndexFileExists());
-    EXPECT_EQ(Configured(), "");
-
-    wizardShown = false;
-    InWizard([](HWND wizard) { SendMessageW(wizard, WM_CLOSE, 0, 0); });
-    EXPECT_FALSE(RunMain());
-    EXPECT_TRUE(wizardShown);
-    EXPECT_EQ(prompter.boxes.size(), 1u) << "closing asks nothing";
-    EXPECT_FALSE(IndexFileExists());
-    EXPECT_EQ(Configured(), "");
+    for (const bool closed : {false, true}) {
+        wizardShown = false;
+        InWizard([closed](HWND wizard) {
+            if (closed) {
+                SendMessageW(wizard, WM_CLOSE, 0, 0);
+            } else {
+                ClickItem(wizard, IDC_WELCOME_CANCEL);
+            }
+        });
+        EXPECT_FALSE(RunMain());
+        EXPECT_TRUE(wizardShown);
+        EXPECT_EQ(startup->MainForm(), nullptr);
+        EXPECT_FALSE(IndexFileExists());
+        EXPECT_EQ(Configured(), "");
+    }
+    EXPECT_EQ(prompter.boxes.size(), 1u) << "cancelling asks, closing asks nothing";
 }
 
 TEST_F(FirstStartTest, AnInstallationWithAnIndexFromBeforeTheWizardCountsAsConfigured) {
