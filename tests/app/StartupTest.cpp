@@ -15,10 +15,6 @@
 namespace quorin::test {
 namespace {
 
-constexpr std::string_view kMissingIndexText =
-    "Your index file is either missing or corrupted. Would you like to generate a new index file "
-    "now? (Answering no will exit the program.)";
-
 class StartupTest : public ProgramFixture {
   protected:
     StartupTest() { settings.Save("Main", "Configured", "1"); }
@@ -52,7 +48,9 @@ TEST_F(StartupTest, AnsweringNoToTheMissingIndexEndsTheProgramAfterRecordingTheP
     EXPECT_FALSE(RunMain());
     ASSERT_EQ(prompter.boxes.size(), 1u);
     EXPECT_EQ(prompter.boxes[0].title, "Missing index");
-    EXPECT_EQ(prompter.boxes[0].text, kMissingIndexText);
+    EXPECT_EQ(prompter.boxes[0].text,
+              "Your index file is either missing or corrupted. Would you like to generate a new "
+              "index file now? (Answering no will exit the program.)");
     EXPECT_EQ(prompter.boxes[0].buttons, PromptButtons::YesNo);
     EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Question);
     EXPECT_EQ(unloads, 1);
