@@ -88,13 +88,29 @@ class IconExtractorTest : public ::testing::Test {
     ctlIconExtractor extractor_;
 };
 
-TEST_F(IconExtractorTest, FollowsExtensionFileTypeAndDefaultIcon) {
+// A file's type is its last four characters, and only a lower-case ".exe" is a program with its
+// own icon.
+TEST_F(IconExtractorTest, FollowsExtensionFileTypeAndDefaultIconOfTheLastFourCharacters) {
     const Picture expected = IconOf(SystemFile("shell32.dll"), -152);
     ASSERT_FALSE(IsBlank(expected));
     ASSERT_NE(expected, IconOf(SystemFile("shell32.dll"), 152));
-
     EXPECT_EQ(DrawLarge(extractor_.RetrieveFileIcon("notes.qzt", "C:\\Users")), expected);
     EXPECT_EQ(DrawLarge(extractor_.RetrieveExtIcon(".qzt")), expected);
+
+    ASSERT_FALSE(IsBlank(DrawLarge(extractor_.RetrieveExtIcon(".qzrt"))));
+    const Picture shortType = DrawLarge(extractor_.RetrieveExtIcon(".q~"));
+    ASSERT_FALSE(IsBlank(shortType));
+    EXPECT_FALSE(extractor_.RetrieveFileIcon("page.qzrt", "C:\\"));  // looked up as "qzrt"
+    EXPECT_EQ(DrawLarge(extractor_.RetrieveFileIcon(".q~", "C:\\")), shortType);
+    EXPECT_FALSE(extractor_.RetrieveFileIcon("a.q~", "C:\\"));  // looked up as "a.q~"
+
+    const std::string system = WindowsFolder() + "\\system32";
+    const Picture own = IconOf(SystemFile("notepad.exe"), 0);
+    ASSERT_FALSE(IsBlank(own));
+    EXPECT_EQ(DrawLarge(extractor_.RetrieveFileIcon("notepad.exe", system)), own);
+    const Picture upper = DrawLarge(extractor_.RetrieveFileIcon("NOTEPAD.EXE", system));
+    EXPECT_EQ(upper, DrawLarge(extractor_.RetrieveExtIcon(".EXE")));
+    EXPECT_NE(upper, own);
 }
 
 TEST_F(IconExtractorTest, ReadsPathAndIndexFromTheIconLocation) {
@@ -150,28 +166,6 @@ TEST_F(IconExtractorTest, EveryRequestAddsTheSameImageToBothLists) {
     for (int index = 0; index < 3; ++index) {
         EXPECT_EQ(Draw(small_, index), Draw(large_, index));
     }
-}
-
-TEST_F(IconExtractorTest, LooksFilesUpByTheirLastFourCharacters) {
-    const Picture longType = DrawLarge(extractor_.RetrieveExtIcon(".qzrt"));
-    const Picture shortType = DrawLarge(extractor_.RetrieveExtIcon(".q~"));
-    ASSERT_FALSE(IsBlank(longType));
-    ASSERT_FALSE(IsBlank(shortType));
-
-    EXPECT_FALSE(extractor_.RetrieveFileIcon("page.qzrt", "C:\\"));  // looked up as "qzrt"
-    EXPECT_EQ(DrawLarge(extractor_.RetrieveFileIcon(".q~", "C:\\")), shortType);
-    EXPECT_FALSE(extractor_.RetrieveFileIcon("a.q~", "C:\\"));  // looked up as "a.q~"
-}
-
-TEST_F(IconExtractorTest, OnlyALowerCaseExeIsAProgramWithItsOwnIcon) {
-    const std::string system = WindowsFolder() + "\\system32";
-    const Picture own = IconOf(SystemFile("notepad.exe"), 0);
-    ASSERT_FALSE(IsBlank(own));
-
-    EXPECT_EQ(DrawLarge(extractor_.RetrieveFileIcon("notepad.exe", system)), own);
-    const Picture upper = DrawLarge(extractor_.RetrieveFileIcon("NOTEPAD.EXE", system));
-    EXPECT_EQ(upper, DrawLarge(extractor_.RetrieveExtIcon(".EXE")));
-    EXPECT_NE(upper, own);
 }
 
 TEST_F(IconExtractorTest, ReturnsTheIndexOfTheListSetAsLarge) {
