@@ -17,7 +17,7 @@ namespace {
 // What Windows asks for from 100 % to 200 %: tray, title bar, taskbar, Start menu, Explorer.
 const std::vector<int> kCarriedSizes = {16, 20, 24, 32, 40, 48, 64, 96, 128, 256};
 
-TEST(Resources, IconsCarryAndLoadEverySizeWindowsAsksFor) {
+TEST(Resources, IconsCarryAndLoadEverySizeWindowsAsksForAndTheSplashPictureIs400By170) {
     for (int id : {IDI_QUORIN, IDI_INDEXING}) {
         const HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(id), RT_GROUP_ICON);
         ASSERT_NE(found, nullptr);
@@ -44,18 +44,15 @@ TEST(Resources, IconsCarryAndLoadEverySizeWindowsAsksFor) {
             EXPECT_EQ(bitmap.bmHeight, size);
         }
     }
-}
-
-TEST(Resources, SplashPictureIsA400By170Bitmap) {
-    const UniqueBitmap picture(
+    const UniqueBitmap splash(
         static_cast<HBITMAP>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDB_SPLASH),
                                         IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
-    ASSERT_TRUE(picture);
+    ASSERT_TRUE(splash);
     BITMAP bitmap{};
-    GetObjectW(picture.get(), sizeof(bitmap), &bitmap);
-    EXPECT_EQ(bitmap.bmWidth, 400);
-    EXPECT_EQ(bitmap.bmHeight, 170);
-    EXPECT_EQ(bitmap.bmBitsPixel, 24);
+    GetObjectW(splash.get(), sizeof(bitmap), &bitmap);
+    EXPECT_EQ(std::vector<int>({bitmap.bmWidth, bitmap.bmHeight, bitmap.bmBitsPixel}),
+              std::vector<int>({400, 170, 24}))
+        << "the splash picture";
 }
 
 std::string VersionString(const std::vector<char>& block, const wchar_t* name) {

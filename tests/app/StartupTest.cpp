@@ -15,10 +15,6 @@
 namespace quorin::test {
 namespace {
 
-constexpr std::string_view kMissingIndexText =
-    "Your index file is either missing or corrupted. Would you like to generate a new index file "
-    "now? (Answering no will exit the program.)";
-
 class StartupTest : public ProgramFixture {
   protected:
     StartupTest() { settings.Save("Main", "Configured", "1"); }
@@ -52,7 +48,9 @@ TEST_F(StartupTest, AnsweringNoToTheMissingIndexEndsTheProgramAfterRecordingTheP
     EXPECT_FALSE(RunMain());
     ASSERT_EQ(prompter.boxes.size(), 1u);
     EXPECT_EQ(prompter.boxes[0].title, "Missing index");
-    EXPECT_EQ(prompter.boxes[0].text, kMissingIndexText);
+    EXPECT_EQ(prompter.boxes[0].text,
+              "Your index file is either missing or corrupted. Would you like to generate a new "
+              "index file now? (Answering no will exit the program.)");
     EXPECT_EQ(prompter.boxes[0].buttons, PromptButtons::YesNo);
     EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Question);
     EXPECT_EQ(unloads, 1);
@@ -107,13 +105,6 @@ TEST_F(StartupTest, CancellingTheFirstBuildEndsTheProgram) {
     EXPECT_EQ(prompter.boxes[1].title, "Update Index Cancelled");
     EXPECT_EQ(unloads, 1);
     EXPECT_FALSE(IndexFileExists());
-}
-
-TEST_F(StartupTest, AnExistingIndexAsksNothing) {
-    program.WriteFile("index.txt", "2023-03-14 08:00:00\r\n0\r\n");
-    EXPECT_TRUE(RunMain());
-    EXPECT_TRUE(prompter.boxes.empty());
-    EXPECT_FALSE(IsWindowVisible(startup->MainForm()->hwnd())) << "it waits in the tray";
 }
 
 TEST_F(StartupTest, ABadSettingEndsTheProgramWithOneMessageAndWritesNothing) {
@@ -173,20 +164,22 @@ TEST_F(FirstStartTest, TheWizardsFinishBuildsTheIndexAndTheProgramRunsFromTheTra
 
 TEST_F(FirstStartTest, ACancelledOrClosedWizardEndsTheProgramAndComesBackNextTime) {
     prompter.answers = {PromptAnswer::Yes};
-    InWizard([](HWND wizard) { ClickItem(wizard, IDC_WELCOME_CANCEL); });
-    EXPECT_FALSE(RunMain());
-    EXPECT_TRUE(wizardShown);
-    EXPECT_EQ(startup->MainForm(), nullptr);
-    EXPECT_FALSE(IndexFileExists());
-    EXPECT_EQ(Configured(), "");
-
-    wizardShown = false;
-    InWizard([](HWND wizard) { SendMessageW(wizard, WM_CLOSE, 0, 0); });
-    EXPECT_FALSE(RunMain());
-    EXPECT_TRUE(wizardShown);
-    EXPECT_EQ(prompter.boxes.size(), 1u) << "closing asks nothing";
-    EXPECT_FALSE(IndexFileExists());
-    EXPECT_EQ(Configured(), "");
+    for (const bool closed : {false, true}) {
+        wizardShown = false;
+        InWizard([closed](HWND wizard) {
+            if (closed) {
+                SendMessageW(wizard, WM_CLOSE, 0, 0);
+            } else {
+                ClickItem(wizard, IDC_WELCOME_CANCEL);
+            }
+        });
+        EXPECT_FALSE(RunMain());
+        EXPECT_TRUE(wizardShown);
+        EXPECT_EQ(startup->MainForm(), nullptr);
+        EXPECT_FALSE(IndexFileExists());
+        EXPECT_EQ(Configured(), "");
+    }
+    EXPECT_EQ(prompter.boxes.size(), 1u) << "cancelling asks, closing asks nothing";
 }
 
 TEST_F(FirstStartTest, AnInstallationWithAnIndexFromBeforeTheWizardCountsAsConfigured) {
@@ -194,7 +187,8 @@ TEST_F(FirstStartTest, AnInstallationWithAnIndexFromBeforeTheWizardCountsAsConfi
     InWizard([](HWND wizard) { SendMessageW(wizard, WM_CLOSE, 0, 0); });
     EXPECT_TRUE(RunMain());
     EXPECT_EQ(Configured(), "1");
-    EXPECT_TRUE(prompter.boxes.empty());
+    EXPECT_TRUE(prompter.boxes.empty()) << "an existing index asks nothing";
+    EXPECT_FALSE(IsWindowVisible(startup->MainForm()->hwnd())) << "it waits in the tray";
     MessagePump::RunUntil([this] { return looked; });
     EXPECT_FALSE(wizardShown);
 }

@@ -5,16 +5,13 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "WelcomeDialog.h"
-#include "platform/Text.h"
 #include "platform/registry/ScratchClasses.h"
 #include "ui/Dpi.h"
 #include "ui/WindowText.h"
-#include "ui/controls/ctlTabLabel.h"
 #include "ui/dialogs/DialogTestHelpers.h"
 #include "ui/dialogs/frmNewWord.h"
 #include "ui/dialogs/frmOptions.h"
@@ -27,18 +24,8 @@
 namespace quorin::test {
 namespace {
 
-std::string Describe(HWND control, const RECT& rect) {
-    wchar_t className[64] = {};
-    GetClassNameW(control, className, 64);
-    return Narrow(className) + " " + std::to_string(GetDlgCtrlID(control)) + " \"" +
-           WindowText(control) + "\" at " + std::to_string(rect.left) + "," +
-           std::to_string(rect.top) + "-" + std::to_string(rect.right) + "," +
-           std::to_string(rect.bottom);
-}
-
-// The visible controls, at any depth, that are not wholly inside the window's client area;
-// rectangles in client coordinates.
-std::vector<std::string> ControlsOutside(HWND window) {
+// The visible controls, at any depth, not wholly inside the window's client area.
+void ExpectInside(HWND window, const std::string& what) {
     struct Walk {
         HWND window;
         RECT client;
@@ -55,16 +42,14 @@ std::vector<std::string> ControlsOutside(HWND window) {
             RECT joined{};
             UnionRect(&joined, &rect, &found.client);
             if (IsWindowVisible(child) && !EqualRect(&joined, &found.client)) {
-                found.outside.push_back(Describe(child, rect));
+                found.outside.push_back(
+                    std::to_string(GetDlgCtrlID(child)) + " \"" + WindowText(child) + "\" right " +
+                    std::to_string(rect.right) + " bottom " + std::to_string(rect.bottom));
             }
             return TRUE;
         },
         reinterpret_cast<LPARAM>(&walk));
-    return walk.outside;
-}
-
-void ExpectInside(HWND window, const std::string& what) {
-    EXPECT_EQ(ControlsOutside(window), std::vector<std::string>{})
+    EXPECT_EQ(walk.outside, std::vector<std::string>{})
         << what << " at " << WindowDpi(window) << " dpi";
 }
 

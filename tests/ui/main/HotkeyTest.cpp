@@ -8,7 +8,6 @@
 
 #include "platform/MemorySettingsStore.h"
 #include "ui/Dpi.h"
-#include "ui/WindowClass.h"
 #include "ui/main/GlobalHotkey.h"
 #include "ui/main/HotkeyText.h"
 #include "ui/main/HotkeyToggle.h"
@@ -18,11 +17,9 @@
 namespace quorin::test {
 namespace {
 
-// Combinations nobody else on the test desktop uses, one for each test that registers.
-constexpr Hotkey kShared{MOD_CONTROL | MOD_ALT | MOD_SHIFT, VK_F9};
+// Combinations nobody else on the test desktop uses.
 constexpr Hotkey kToggle{MOD_CONTROL | MOD_ALT | MOD_SHIFT, VK_F10};
 constexpr Hotkey kHeld{MOD_CONTROL | MOD_ALT | MOD_SHIFT, VK_F11};
-constexpr Hotkey kOther{MOD_CONTROL | MOD_ALT | MOD_SHIFT, VK_F8};
 
 TEST(HotkeyText, EveryKindOfKeyGoesToTextAndBack) {
     const std::vector<std::pair<Hotkey, std::string>> cases = {
@@ -83,47 +80,32 @@ TEST(HotkeyToggle, OnlyAWindowInFrontIsPutAway) {
               HotkeyAction::Hide);
 }
 
-// A plain window of this process that holds a combination, as another program would.
-class HotkeyOwner {
-  public:
-    HotkeyOwner() {
-        static const ATOM atom = RegisterWindowClass({.name = L"QuorinHotkeyOwner"});
-        static_cast<void>(atom);
-        window_.reset(CreateWindowExW(0, L"QuorinHotkeyOwner", L"", 0, 0, 0, 0, 0, nullptr, nullptr,
-                                      GetModuleHandleW(nullptr), nullptr));
-    }
-    HWND hwnd() const { return window_.get(); }
-
-  private:
-    UniqueWindow window_;
-};
-
-TEST(GlobalHotkey, ACombinationHeldElsewhereIsRefused) {
-    const HotkeyOwner first;
-    const HotkeyOwner second;
-    GlobalHotkey held;
-    GlobalHotkey wanting;
-    ASSERT_TRUE(held.Register(first.hwnd(), kShared));
-    EXPECT_TRUE(held.Free(first.hwnd(), kShared)) << "its own combination";
-
-    EXPECT_FALSE(wanting.Free(second.hwnd(), kShared));
-    EXPECT_FALSE(wanting.Register(second.hwnd(), kShared));
-
-    held.Unregister();
-    EXPECT_TRUE(wanting.Free(second.hwnd(), kShared)) << "probing leaves nothing registered";
-    EXPECT_TRUE(wanting.Register(second.hwnd(), kShared));
-    EXPECT_TRUE(wanting.Register(second.hwnd(), std::nullopt)) << "none is never in use";
-    EXPECT_TRUE(held.Register(first.hwnd(), kShared)) << "released with none";
+// Another holder of a combination, as another program would be: this thread, with no window.
+bool HeldElsewhere(const Hotkey& hotkey, bool hold) {
+    return hold ? RegisterHotKey(nullptr, hotkey.key, hotkey.modifiers, hotkey.key) != FALSE
+                : UnregisterHotKey(nullptr, hotkey.key) != FALSE;
 }
 
-TEST_F(MainWindowTest, TheHotkeyShowsTheWordBoxReadyAndPutsTheWindowAwayAgain) {
-    settings.Save("Main", "Hotkey", FormatHotkey(kToggle));
+TEST_F(MainWindowTest, TheHotkeyShowsTheWordBoxReadyPutsTheWindowAwayAndIsRefusedWhenHeld) {
+    ASSERT_TRUE(HeldElsewhere(kHeld, true));
+    settings.Save("Main", "Hotkey", FormatHotkey(kHeld));
     settings.Save("Main", "StartX", "2400");
     Load();
+    EXPECT_EQ(TrayTip(tray.Record()), "Quorin") << "only the General page tells it is held";
+    EXPECT_FALSE(form->HotkeyFree(kHeld));
+    EXPECT_TRUE(form->HotkeyFree(kToggle));
+    EXPECT_TRUE(form->ApplyHotkey(kToggle)) << "probing left nothing registered";
+    EXPECT_TRUE(form->HotkeyFree(kToggle)) << "its own";
+    EXPECT_FALSE(HeldElsewhere(kToggle, true));
+    EXPECT_TRUE(form->ApplyHotkey(std::nullopt)) << "none is never in use";
+    EXPECT_TRUE(HeldElsewhere(kToggle, true)) << "released with none";
+    EXPECT_TRUE(HeldElsewhere(kToggle, false));
+    EXPECT_FALSE(form->ApplyHotkey(kHeld));
     EXPECT_EQ(TrayTip(tray.Record()), "Quorin");
+    EXPECT_TRUE(HeldElsewhere(kHeld, false));
+
     ClickTab(kHelpPanel);
     SetWord("notes");
-
     SendMessageW(Window(), WM_HOTKEY, GlobalHotkey::kId, 0);
     ASSERT_TRUE(IsWindowVisible(Window()));
     RECT frame{};
@@ -142,23 +124,6 @@ TEST_F(MainWindowTest, TheHotkeyShowsTheWordBoxReadyAndPutsTheWindowAwayAgain) {
     EXPECT_FALSE(IsWindowVisible(Window()));
     SendMessageW(Window(), WM_HOTKEY, GlobalHotkey::kId + 1, 0);
     EXPECT_FALSE(IsWindowVisible(Window())) << "not our hotkey";
-}
-
-// Only the General page tells that another program holds the combination; the tip stays.
-TEST_F(MainWindowTest, AHotkeyHeldElsewhereLeavesTheTrayTipAsItIs) {
-    const HotkeyOwner other;
-    ASSERT_NE(RegisterHotKey(other.hwnd(), 7, kHeld.modifiers, kHeld.key), FALSE);
-    settings.Save("Main", "Hotkey", FormatHotkey(kHeld));
-    Load();
-    EXPECT_EQ(TrayTip(tray.Record()), "Quorin");
-    EXPECT_FALSE(form->HotkeyFree(kHeld));
-    EXPECT_TRUE(form->HotkeyFree(kOther));
-    EXPECT_TRUE(form->ApplyHotkey(kOther));
-    EXPECT_TRUE(form->HotkeyFree(kOther)) << "its own";
-    EXPECT_FALSE(form->ApplyHotkey(kHeld));
-    EXPECT_EQ(TrayTip(tray.Record()), "Quorin");
-    EXPECT_TRUE(form->ApplyHotkey(std::nullopt));
-    UnregisterHotKey(other.hwnd(), 7);
 }
 
 }  // namespace

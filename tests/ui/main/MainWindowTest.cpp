@@ -2,17 +2,16 @@
 
 #include <filesystem>
 #include <functional>
-#include <set>
 
 #include "platform/FileSystem.h"
 #include "platform/OleDate.h"
 #include "platform/Path.h"
-#include "platform/Text.h"
 #include "support/ReaderNames.h"
 #include "ui/Dpi.h"
 #include "ui/FocusColors.h"
 #include "ui/Hourglass.h"
 #include "ui/WindowErrors.h"
+#include "ui/dialogs/DialogTestHelpers.h"
 #include "ui/main/MainWindowFixture.h"
 
 namespace quorin::test {
@@ -88,29 +87,13 @@ TEST_F(MainWindowTest, LoadsHiddenWithTabsPanelsAndEveryText) {
     EXPECT_EQ(TrayTip(record), "Quorin");
     EXPECT_EQ(record.hWnd, static_cast<uint32_t>(reinterpret_cast<uintptr_t>(Window())));
     EXPECT_NE(record.hIcon, 0u);
-    EXPECT_EQ(trayCalls, (std::vector<std::pair<DWORD, HWND>>{{NIM_ADD, Window()}}));
-}
-
-TEST_F(MainWindowTest, TheIconComesBackWhenExplorerRestarts) {
-    Load();
-    trayCalls.clear();
     SendMessageW(Window(), RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
-    EXPECT_EQ(trayCalls, (std::vector<std::pair<DWORD, HWND>>{{NIM_ADD, Window()}}));
-    EXPECT_EQ(TrayTip(tray.Record()), "Quorin");
+    EXPECT_EQ(trayCalls, (std::vector<std::pair<DWORD, HWND>>(2, {NIM_ADD, Window()})))
+        << "added at load, and again when Explorer restarts";
 }
 
 TEST_F(MainWindowTest, TabsShowTheirPanelsAndTheLinksDoTheirWork) {
     Load();
-    settings.Save("Index", "Interval", "36");
-    index.Get().UpdateSettings();
-    ClickTab(1);
-    EXPECT_EQ(PanelsShown(), (std::vector<bool>{false, true, false, false, false, false}));
-    EXPECT_EQ(Text(kIdUpdateInterval), "The index is automatically updated every 36 hour(s).");
-    EXPECT_EQ(Text(kIdLastUpdated), FormatLocalDateTime(0));
-    Build();
-    EXPECT_EQ(Text(kIdLastUpdated), FormatLocalDateTime(index.Get().LastUpdated))
-        << "refreshed when a build ends";
-
     ClickTab(2);
     EXPECT_EQ(PanelsShown(), (std::vector<bool>{false, false, true, false, false, false}));
     Command(kIdGeneralOptions);
@@ -134,11 +117,13 @@ TEST_F(MainWindowTest, TabsShowTheirPanelsAndTheLinksDoTheirWork) {
     EXPECT_EQ(unloads, 0);
 }
 
-TEST_F(MainWindowTest, ExitTabUnloadsSavingThePositionAndRemovingTheEngine) {
+TEST_F(MainWindowTest, ExitTabAndSessionEndUnloadSavingThePositionAndRemovingTheEngine) {
     Load();
     SetWindowPos(Window(), nullptr, 150, 90, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     HWND window = Window();
     index.Get();
+    SendMessageW(Window(), WM_ENDSESSION, FALSE, 0);
+    EXPECT_EQ(unloads, 0) << "another program kept the session going";
     ClickTab(4);
     EXPECT_EQ(unloads, 1);
     EXPECT_FALSE(IsWindow(window));
@@ -147,56 +132,10 @@ TEST_F(MainWindowTest, ExitTabUnloadsSavingThePositionAndRemovingTheEngine) {
     EXPECT_FALSE(index.Exists());
     EXPECT_EQ(settings.Get("Main", "StartX", ""), std::to_string(PixelsToTwips(150, ScreenDpi())));
     EXPECT_EQ(settings.Get("Main", "StartY", ""), std::to_string(PixelsToTwips(90, ScreenDpi())));
-}
 
-TEST_F(MainWindowTest, CloseAndMinimiseHideAndTheTrayBringsTheWindowBackInPlace) {
-    settings.Save("Main", "StartX", "3000");
-    settings.Save("Main", "StartY", "1500");
     Load();
-    const int dpi = WindowDpi(Window());
-    EXPECT_EQ(ScreenRect(Window()).left, TwipsToPixels(3000, dpi)) << "remembered position";
-
-    // A real mouse move over the window is not a tray click, not even one with the left button
-    // held over its top row, where a wide window (150 % and up) has an x of 514.
-    SendMessageW(Window(), WM_MOUSEMOVE, 0, MAKELPARAM(WM_LBUTTONUP, 0));
-    SendMessageW(Window(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(WM_LBUTTONUP, 3));
-    POINT topRow{WM_LBUTTONUP, 0};
-    ClientToScreen(Window(), &topRow);
-    SetCursorPos(topRow.x, topRow.y);
-    PostMessageW(Window(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(WM_LBUTTONUP, 0));
-    events.pump.DoEvents();
-    EXPECT_FALSE(IsWindowVisible(Window()));
-    SetCursorPos(topRow.x + 40, topRow.y + 300);  // to where the icon would be
-
-    Tray(WM_LBUTTONUP);
-    ASSERT_TRUE(IsWindowVisible(Window()));
-    SetWindowPos(Window(), nullptr, 200, 120, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    SendMessageW(Window(), WM_CLOSE, 0, 0);
-    EXPECT_FALSE(IsWindowVisible(Window()));
-    EXPECT_TRUE(IsWindow(Window())) << "the close box only hides";
-    EXPECT_EQ(unloads, 0);
-
-    Tray(WM_LBUTTONDBLCLK);
-    EXPECT_TRUE(IsWindowVisible(Window()));
-    EXPECT_FALSE(IsIconic(Window()));
-    EXPECT_EQ(ScreenRect(Window()).left, 200);
-    EXPECT_EQ(ScreenRect(Window()).top, 120);
-
-    SetWindowPos(Window(), nullptr, 250, 130, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    Tray(WM_LBUTTONUP);
-    EXPECT_EQ(ScreenRect(Window()).left, 250) << "a visible window is only brought forward";
-
-    SendMessageW(Window(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
-    EXPECT_FALSE(IsWindowVisible(Window()));
-    SendMessageW(Window(), WM_CLOSE, 0, 0);  // while minimised: the position is kept
-    Tray(WM_LBUTTONUP);
-    EXPECT_TRUE(IsWindowVisible(Window()));
-    EXPECT_FALSE(IsIconic(Window()));
-
-    SendMessageW(Window(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
-    form->Unload();
-    EXPECT_EQ(settings.Get("Main", "StartX", ""), std::to_string(PixelsToTwips(200, dpi)))
-        << "the position stored at the last close before minimising";
+    SendMessageW(Window(), WM_ENDSESSION, TRUE, 0);
+    EXPECT_EQ(unloads, 2) << "the session ending while idle unloads at once";
 }
 
 // Each change of the main window's visibility and state, in order: visible, minimised.
@@ -212,9 +151,26 @@ LRESULT CALLBACK RecordStates(int code, WPARAM wParam, LPARAM lParam) {
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-TEST_F(MainWindowTest, TheCloseBoxHidesTheWindowBeforeItIsMinimised) {
+TEST_F(MainWindowTest, CloseAndMinimiseHideAndTheTrayBringsTheWindowBackInPlace) {
+    settings.Save("Main", "StartX", "3000");
+    settings.Save("Main", "StartY", "1500");
     Load();
-    form->Show();
+    const int dpi = WindowDpi(Window());
+    EXPECT_EQ(ScreenRect(Window()).left, TwipsToPixels(3000, dpi)) << "remembered position";
+
+    // A real move with the left button held over the top row of a wide window (150 % and up,
+    // where the row has an x of 514) is not a tray click.
+    POINT topRow{WM_LBUTTONUP, 0};
+    ClientToScreen(Window(), &topRow);
+    SetCursorPos(topRow.x, topRow.y);
+    PostMessageW(Window(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(WM_LBUTTONUP, 0));
+    events.pump.DoEvents();
+    EXPECT_FALSE(IsWindowVisible(Window()));
+    SetCursorPos(topRow.x + 40, topRow.y + 300);  // to where the icon would be
+
+    Tray(WM_LBUTTONUP);
+    ASSERT_TRUE(IsWindowVisible(Window()));
+    SetWindowPos(Window(), nullptr, 200, 120, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     watchedWindow = Window();
     const HHOOK hook =
         SetWindowsHookExW(WH_CALLWNDPROCRET, RecordStates, nullptr, GetCurrentThreadId());
@@ -225,101 +181,96 @@ TEST_F(MainWindowTest, TheCloseBoxHidesTheWindowBeforeItIsMinimised) {
         << "hidden first, so that no minimise animation plays";
     EXPECT_FALSE(IsWindowVisible(Window()));
     EXPECT_TRUE(IsIconic(Window()));
+    EXPECT_EQ(unloads, 0) << "the close box only hides";
+
+    Tray(WM_LBUTTONDBLCLK);
+    EXPECT_TRUE(IsWindowVisible(Window()));
+    EXPECT_FALSE(IsIconic(Window()));
+    EXPECT_EQ(ScreenRect(Window()).left, 200);
+    EXPECT_EQ(ScreenRect(Window()).top, 120);
+
+    SetWindowPos(Window(), nullptr, 250, 130, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    Tray(WM_LBUTTONUP);
+    EXPECT_EQ(ScreenRect(Window()).left, 250) << "a visible window is only brought forward";
+
+    SendMessageW(Window(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
+    EXPECT_FALSE(IsWindowVisible(Window()));
+    SendMessageW(Window(), WM_CLOSE, 0, 0);  // while minimised: the position is kept
+    form->Unload();
+    EXPECT_EQ(settings.Get("Main", "StartX", ""), std::to_string(PixelsToTwips(200, dpi)))
+        << "the position stored at the last close before minimising";
 }
 
 // However the window comes up after it was minimised, closed or escaped, it is in front and the
 // keys typed next reach its word box: a window still active when it went away gets no WM_ACTIVATE.
+// Each way down and each way up once (every way down leaves it hidden and minimised, and every
+// way up ends in one helper), with the pair that once lost the focus first.
 TEST_F(MainWindowTest, EveryWayUpLeavesTheWordBoxWithTheKeysInAWindowInFront) {
     Load();
     using Step = std::pair<const char*, std::function<void()>>;
-    const Step before[] = {
-        {"minimised", [&] { SendMessageW(Window(), WM_SYSCOMMAND, SC_MINIMIZE, 0); }},
-        {"closed", [&] { SendMessageW(Window(), WM_CLOSE, 0, 0); }},
-        {"escaped",
-         [&] {
-             PostMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 0);
-             events.pump.DoEvents();
-         }},
+    const std::pair<Step, Step> cases[] = {
+        {{"minimised", [&] { SendMessageW(Window(), WM_SYSCOMMAND, SC_MINIMIZE, 0); }},
+         {"tray click", [&] { Tray(WM_LBUTTONUP); }}},
+        {{"closed", [&] { SendMessageW(Window(), WM_CLOSE, 0, 0); }},
+         {"tray menu Go", [&] { Command(kIdMenuGo); }}},
+        {{"escaped",
+          [&] {
+              PostMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 0);
+              events.pump.DoEvents();
+          }},
+         {"hotkey", [&] { SendMessageW(Window(), WM_HOTKEY, GlobalHotkey::kId, 0); }}},
     };
-    const Step ways[] = {
-        {"tray click", [&] { Tray(WM_LBUTTONUP); }},
-        {"tray menu Go", [&] { Command(kIdMenuGo); }},
-        {"hotkey", [&] { SendMessageW(Window(), WM_HOTKEY, GlobalHotkey::kId, 0); }},
-    };
-    for (const auto& [state, leave] : before) {
-        for (const auto& [way, bringUp] : ways) {
-            form->Show();
-            SetForegroundWindow(Window());
-            SetFocus(Control(kIdWord));
-            leave();
-            EXPECT_FALSE(IsWindowVisible(Window())) << state;
-            bringUp();
-            EXPECT_EQ(GetForegroundWindow(), Window()) << state << ", then " << way;
-            EXPECT_TRUE(IsChild(Control(kIdWord), GetFocus())) << state << ", then " << way;
-        }
+    for (const auto& [down, up] : cases) {
+        form->Show();
+        SetForegroundWindow(Window());
+        SetFocus(Control(kIdWord));
+        down.second();
+        EXPECT_FALSE(IsWindowVisible(Window())) << down.first;
+        up.second();
+        EXPECT_TRUE(IsWindowVisible(Window()) && !IsIconic(Window())) << down.first;
+        EXPECT_EQ(GetForegroundWindow(), Window()) << down.first << ", then " << up.first;
+        EXPECT_TRUE(IsChild(Control(kIdWord), GetFocus())) << down.first << ", then " << up.first;
     }
     EXPECT_EQ(unloads, 0) << "each only hides";
 }
 
-TEST_F(MainWindowTest, ReactivatedOnAnotherPanelTheWindowKeepsKeysAwayFromTheHiddenWordBox) {
+TEST_F(MainWindowTest, TheKeysGoRoundPanelsAndLinksAndNeverReachAHiddenWordBox) {
     Load();
     form->Show();
-    ClickTab(3);
+    SetForegroundWindow(Window());
+    const auto ctrlTab = [this](std::initializer_list<BYTE> held) {
+        if (GetFocus() == nullptr) {
+            SetFocus(Window());  // a panel hidden with the focus in it leaves the focus nowhere
+        }
+        PressKey(VK_TAB, held);
+        return form->CurrentTab();
+    };
+    EXPECT_EQ(ctrlTab({VK_CONTROL}), 1);
+    EXPECT_EQ(PanelsShown(), (std::vector<bool>{false, true, false, false, false, false}));
+    EXPECT_EQ(ctrlTab({VK_CONTROL}), 2);
+    EXPECT_EQ(ctrlTab({VK_CONTROL}), 3);
+    EXPECT_EQ(ctrlTab({VK_CONTROL}), 0) << "from Help round to Go, past Exit";
+    EXPECT_EQ(ctrlTab({VK_CONTROL, VK_SHIFT}), 3);
+    EXPECT_EQ(unloads, 0);
+
     SetFocus(Window());
     SendMessageW(Window(), WM_ACTIVATE, WA_ACTIVE, 0);
-    const HWND focus = GetFocus();
-    EXPECT_NE(focus, Control(kIdWord));
-    EXPECT_NE(GetParent(focus), Control(kIdWord)) << "not the word box's edit field either";
+    EXPECT_NE(GetFocus(), Control(kIdWord)) << "reactivated on Help";
+    EXPECT_NE(GetParent(GetFocus()), Control(kIdWord)) << "not the word box's edit field either";
+
+    ClickTab(2);
+    SetFocus(Control(kIdGeneralOptions));
+    PressKey(VK_TAB);
+    EXPECT_EQ(GetFocus(), Control(kIdFileTypes));
+    PressKey(VK_RETURN);
+    PressKey(VK_TAB);
+    PressKey(VK_SPACE);
+    EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes, kOptionsWords}));
 
     ClickTab(0);
     SetFocus(Window());
     SendMessageW(Window(), WM_ACTIVATE, WA_ACTIVE, 0);
     EXPECT_EQ(GetParent(GetFocus()), Control(kIdWord)) << "on the Go panel the box takes it";
-}
-
-TEST_F(MainWindowTest, CtrlTabGoesRoundThePanelsButNeverToExit) {
-    Load();
-    form->Show();
-    SetForegroundWindow(Window());
-    const auto press = [this](bool shift) {
-        BYTE keys[256] = {};
-        GetKeyboardState(keys);
-        keys[VK_CONTROL] = 0x80;
-        keys[VK_SHIFT] = shift ? 0x80 : 0;
-        SetKeyboardState(keys);
-        PostMessageW(GetFocus() != nullptr ? GetFocus() : Window(), WM_KEYDOWN, VK_TAB, 0);
-        events.pump.DoEvents();
-        keys[VK_CONTROL] = 0;
-        keys[VK_SHIFT] = 0;
-        SetKeyboardState(keys);
-        return form->CurrentTab();
-    };
-    EXPECT_EQ(press(false), 1);
-    EXPECT_EQ(PanelsShown(), (std::vector<bool>{false, true, false, false, false, false}));
-    EXPECT_EQ(press(false), 2);
-    EXPECT_EQ(press(false), 3);
-    EXPECT_EQ(press(false), 0) << "from Help round to Go, past Exit";
-    EXPECT_EQ(press(true), 3);
-    EXPECT_EQ(unloads, 0);
-}
-
-TEST_F(MainWindowTest, TabReachesThePanelsLinksAndEnterOpensTheFocusedOne) {
-    Load();
-    form->Show();
-    SetForegroundWindow(Window());
-    ClickTab(2);
-    SetFocus(Control(kIdGeneralOptions));
-    const auto press = [this](WPARAM key) {
-        PostMessageW(GetFocus(), WM_KEYDOWN, key, 0);
-        PostMessageW(GetFocus(), WM_KEYUP, key, 0);
-        events.pump.DoEvents();
-    };
-    press(VK_TAB);
-    EXPECT_EQ(GetFocus(), Control(kIdFileTypes));
-    press(VK_RETURN);
-    press(VK_TAB);
-    press(VK_SPACE);
-    EXPECT_EQ(options.panels, (std::vector<int>{kOptionsFileTypes, kOptionsWords}));
 }
 
 TEST_F(MainWindowTest, AfterABuildTheIndexPanelSaysWhatItHoldsAndLinksToAllFolders) {
@@ -332,9 +283,15 @@ TEST_F(MainWindowTest, AfterABuildTheIndexPanelSaysWhatItHoldsAndLinksToAllFolde
     for (int i = 0; i < 21; ++i) {
         settings.Save("Index", "Drive" + std::to_string(i), tree.Path());
     }
+    settings.Save("Index", "Interval", "36");
     Load();
     ClickTab(1);
+    EXPECT_EQ(PanelsShown(), (std::vector<bool>{false, true, false, false, false, false}));
+    EXPECT_EQ(Text(kIdUpdateInterval), "The index is automatically updated every 36 hour(s).");
+    EXPECT_EQ(Text(kIdLastUpdated), FormatLocalDateTime(0));
     Build();
+    EXPECT_EQ(Text(kIdLastUpdated), FormatLocalDateTime(index.Get().LastUpdated))
+        << "refreshed when a build ends";
     // The window itself is hidden, so its children's own flag tells.
     const auto linkShown = [this] {
         return (GetWindowLongW(Control(kIdFoldersLeftOut), GWL_STYLE) & WS_VISIBLE) != 0;
@@ -352,13 +309,20 @@ TEST_F(MainWindowTest, AfterABuildTheIndexPanelSaysWhatItHoldsAndLinksToAllFolde
     EXPECT_FALSE(linkShown());
 }
 
-TEST_F(MainWindowTest, ABuildDisablesTabsShowsProgressOnTopAndRefusesToExit) {
+// Every build, the user's and the timer's, keeps the wait pointer for its whole length.
+TEST_F(MainWindowTest, ABuildDisablesTabsShowsProgressOnTopKeepsTheWaitPointerAndRefusesToExit) {
     tree.WriteFile("docs/a.txt", "a");
     Load();
     std::vector<bool> tabsEnabled;
     bool progressOnTop = false;
     std::string tip;
+    std::vector<bool> waitShown;
+    std::vector<LRESULT> cursorAnswers;
     events.onEvents = [&] {
+        waitShown.push_back(Hourglass::Shown());
+        cursorAnswers.push_back(SendMessageW(Window(), WM_SETCURSOR,
+                                             reinterpret_cast<WPARAM>(Window()),
+                                             MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
         if (!tip.empty()) {
             return;
         }
@@ -390,6 +354,13 @@ TEST_F(MainWindowTest, ABuildDisablesTabsShowsProgressOnTopAndRefusesToExit) {
     EXPECT_TRUE(IsWindowEnabled(Control(kIdTab)));
     EXPECT_EQ(Text(kIdCounter), "Saving...");
 
+    clock.now += 2;
+    SendMessageW(Window(), WM_TIMER, kTimer1Id, 0);
+    ASSERT_EQ(index.Get().LastUpdated, clock.now) << "the timer built too";
+    EXPECT_EQ(waitShown, std::vector<bool>(waitShown.size(), true));
+    EXPECT_EQ(cursorAnswers, std::vector<LRESULT>(cursorAnswers.size(), TRUE));
+    EXPECT_FALSE(Hourglass::Shown());
+
     Command(kIdMenuExit);
     EXPECT_EQ(unloads, 1) << "no build: the exit entry ends the program";
 }
@@ -416,24 +387,6 @@ TEST_F(MainWindowTest, AnIndexThatCannotBeSavedIsToldOnceAndBuiltAgainOnlyAfterA
     SendMessageW(Window(), WM_TIMER, kTimer1Id, 0);
     SetWindowErrorHandler(nullptr);
     EXPECT_EQ(reports.size(), 2u);
-}
-
-TEST_F(MainWindowTest, EveryBuildKeepsTheWaitPointerForItsWholeLength) {
-    Load();
-    std::vector<bool> shown;
-    std::vector<LRESULT> answers;
-    events.onEvents = [&] {
-        shown.push_back(Hourglass::Shown());
-        answers.push_back(SendMessageW(Window(), WM_SETCURSOR, reinterpret_cast<WPARAM>(Window()),
-                                       MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
-    };
-    Build();
-    clock.now += 2;
-    SendMessageW(Window(), WM_TIMER, kTimer1Id, 0);
-    ASSERT_EQ(index.Get().LastUpdated, clock.now) << "the timer built too";
-    EXPECT_EQ(shown, std::vector<bool>(shown.size(), true));
-    EXPECT_EQ(answers, std::vector<LRESULT>(answers.size(), TRUE));
-    EXPECT_FALSE(Hourglass::Shown());
 }
 
 // The build is below the handler on the stack: the engine must outlive it.
@@ -466,15 +419,6 @@ TEST_F(MainWindowTest, TheSessionEndingDuringABuildCancelsItAndUnloadsOnlyAfterI
     EXPECT_FALSE(std::filesystem::exists(JoinPath(program.Path(), "index.txt")));
 }
 
-TEST_F(MainWindowTest, TheSessionEndingWhileIdleUnloadsAtOnce) {
-    Load();
-    SendMessageW(Window(), WM_ENDSESSION, FALSE, 0);
-    EXPECT_EQ(unloads, 0) << "another program kept the session going";
-    SendMessageW(Window(), WM_ENDSESSION, TRUE, 0);
-    EXPECT_EQ(unloads, 1);
-}
-
-// Which action Go takes is GoCommandTest's; this is the window carrying out each one.
 TEST_F(MainWindowTest, GoCarriesOutEachActionInTheWindow) {
     tree.WriteFile("notes.txt", "n");
     tree.WriteFile("alpha1.doc", "a");
@@ -494,7 +438,7 @@ TEST_F(MainWindowTest, GoCarriesOutEachActionInTheWindow) {
                  reinterpret_cast<LPARAM>(Control(kIdWord)));
     EXPECT_EQ(Text(kIdFile), "") << "told until the word changes";
 
-    SetWord("notes");
+    SetWord("Notes");
     Command(kIdGo);
     ASSERT_EQ(shell.opened.size(), 1u);
     EXPECT_EQ(shell.opened[0].file, JoinPath(tree.Path(), "notes.txt"));
@@ -502,7 +446,7 @@ TEST_F(MainWindowTest, GoCarriesOutEachActionInTheWindow) {
     EXPECT_EQ(shell.opened[0].parameters, "");
     EXPECT_EQ(shell.opened[0].showCommand, 5);
     EXPECT_TRUE(IsWindowVisible(Window())) << "one match leaves the window as it is";
-    EXPECT_EQ(Text(kIdWord), "notes");
+    EXPECT_EQ(Text(kIdWord), "Notes");
     EXPECT_FALSE(IsWindowVisible(Control(kIdSearchProgress))) << "the search bar goes again";
 
     SetWord("alpha");
@@ -534,13 +478,6 @@ TEST_F(MainWindowTest, GoCarriesOutEachActionInTheWindow) {
 class CompletionTest : public MainWindowTest {
   protected:
     void SetUp() override { Load(); }
-    void Assign(const std::vector<std::string>& words) {
-        clsIndex& engine = index.Get();
-        for (const std::string& word : words) {
-            engine.AddWord({word, word + ".exe", 0, {}});
-        }
-        form->AddWords();
-    }
     HWND Edit() const { return GetWindow(Control(kIdWord), GW_CHILD); }
     void Type(std::string_view keys) {
         for (const char key : keys) {
@@ -565,10 +502,13 @@ class CompletionTest : public MainWindowTest {
     }
 };
 
-TEST_F(CompletionTest, TypingCompletesWithTheTopEntryAndTheUserCanRemoveTheTail) {
+TEST_F(CompletionTest, TypingCompletesWithTheTopEntryAndFocusSelectsAllInTooltipColours) {
     Type("no");
     EXPECT_EQ(Shown(), "no[]") << "an empty list never completes";
-    Assign({"Notes", "Notepad"});
+    for (const char* word : {"Notes", "Notepad"}) {
+        index.Get().AddWord({word, std::string(word) + ".exe", 0, {}});
+    }
+    form->AddWords();
     SetWord("");
     Type("n");
     EXPECT_EQ(Shown(), "N[otes]") << "the entry's capitalisation, the entry nearer the top";
@@ -590,9 +530,7 @@ TEST_F(CompletionTest, TypingCompletesWithTheTopEntryAndTheUserCanRemoveTheTail)
     form->AddWords();
     EXPECT_EQ(Shown(), "No[tes]") << "reloading the words keeps the text and its selection";
     EXPECT_EQ(SendMessageW(Control(kIdWord), CB_GETCOUNT, 0, 0), 3);
-}
 
-TEST_F(CompletionTest, FocusShowsTheTooltipColoursAndSelectsAll) {
     SetWord("word");
     form->Show();
     SetForegroundWindow(Window());

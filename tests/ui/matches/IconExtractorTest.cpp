@@ -24,20 +24,12 @@ std::string WindowsFolder() {
     return Narrow(buffer);
 }
 
-std::string SystemFolder() {
-    return WindowsFolder() + "\\system32";
-}
-
 std::string SystemFile(const std::string& name) {
-    return SystemFolder() + "\\" + name;
+    return WindowsFolder() + "\\system32\\" + name;
 }
 
 UniqueImageList NewList() {
     return UniqueImageList(ImageList_Create(kIconSize, kIconSize, ILC_COLOR32 | ILC_MASK, 0, 4));
-}
-
-int Count(const UniqueImageList& list) {
-    return ImageList_GetImageCount(list.get());
 }
 
 // The image as a list view shows it, over a colour no icon surface has.
@@ -96,13 +88,29 @@ class IconExtractorTest : public ::testing::Test {
     ctlIconExtractor extractor_;
 };
 
-TEST_F(IconExtractorTest, FollowsExtensionFileTypeAndDefaultIcon) {
+// A file's type is its last four characters, and only a lower-case ".exe" is a program with its
+// own icon.
+TEST_F(IconExtractorTest, FollowsExtensionFileTypeAndDefaultIconOfTheLastFourCharacters) {
     const Picture expected = IconOf(SystemFile("shell32.dll"), -152);
     ASSERT_FALSE(IsBlank(expected));
     ASSERT_NE(expected, IconOf(SystemFile("shell32.dll"), 152));
-
     EXPECT_EQ(DrawLarge(extractor_.RetrieveFileIcon("notes.qzt", "C:\\Users")), expected);
     EXPECT_EQ(DrawLarge(extractor_.RetrieveExtIcon(".qzt")), expected);
+
+    ASSERT_FALSE(IsBlank(DrawLarge(extractor_.RetrieveExtIcon(".qzrt"))));
+    const Picture shortType = DrawLarge(extractor_.RetrieveExtIcon(".q~"));
+    ASSERT_FALSE(IsBlank(shortType));
+    EXPECT_FALSE(extractor_.RetrieveFileIcon("page.qzrt", "C:\\"));  // looked up as "qzrt"
+    EXPECT_EQ(DrawLarge(extractor_.RetrieveFileIcon(".q~", "C:\\")), shortType);
+    EXPECT_FALSE(extractor_.RetrieveFileIcon("a.q~", "C:\\"));  // looked up as "a.q~"
+
+    const std::string system = WindowsFolder() + "\\system32";
+    const Picture own = IconOf(SystemFile("notepad.exe"), 0);
+    ASSERT_FALSE(IsBlank(own));
+    EXPECT_EQ(DrawLarge(extractor_.RetrieveFileIcon("notepad.exe", system)), own);
+    const Picture upper = DrawLarge(extractor_.RetrieveFileIcon("NOTEPAD.EXE", system));
+    EXPECT_EQ(upper, DrawLarge(extractor_.RetrieveExtIcon(".EXE")));
+    EXPECT_NE(upper, own);
 }
 
 TEST_F(IconExtractorTest, ReadsPathAndIndexFromTheIconLocation) {
@@ -130,24 +138,21 @@ TEST_F(IconExtractorTest, ReadsPathAndIndexFromTheIconLocation) {
     }
 }
 
-TEST_F(IconExtractorTest, AddsABlankImageWhenNothingIsExtracted) {
-    const std::optional<int> self = extractor_.RetrieveExtIcon(".qz1");
-    ASSERT_TRUE(self);
-    EXPECT_TRUE(IsBlank(Draw(large_, *self)));
-
-    const Picture missingFile = IconOf("C:\\nowhere\\none.dll", 0);
-    const Picture missingIcon = IconOf(SystemFile("shell32.dll"), 99999);
-    ASSERT_FALSE(missingFile.empty());
-    EXPECT_TRUE(IsBlank(missingFile));
-    EXPECT_EQ(missingIcon, missingFile);
-}
-
-TEST_F(IconExtractorTest, GivesNothingForTypesWithoutAnIcon) {
+// A type without an icon gets no image; one whose icon cannot be extracted gets a blank one.
+TEST_F(IconExtractorTest, GivesNothingForTypesWithoutAnIconAndABlankForIconsNotExtracted) {
     EXPECT_FALSE(extractor_.RetrieveExtIcon(".qzunregistered"));
     EXPECT_FALSE(extractor_.RetrieveExtIcon(".qzn"));
     EXPECT_FALSE(extractor_.RetrieveFileIcon("readme", "C:\\"));
-    EXPECT_EQ(Count(small_), 0);
-    EXPECT_EQ(Count(large_), 0);
+    EXPECT_EQ(ImageList_GetImageCount(large_.get()), 0);
+
+    const std::optional<int> self = extractor_.RetrieveExtIcon(".qz1");
+    ASSERT_TRUE(self);
+    EXPECT_TRUE(IsBlank(Draw(large_, *self)));
+    const Picture missingFile = IconOf("C:\\nowhere\\none.dll", 0);
+    ASSERT_FALSE(missingFile.empty());
+    EXPECT_TRUE(IsBlank(missingFile));
+    EXPECT_EQ(IconOf(SystemFile("shell32.dll"), 99999), missingFile);
+    EXPECT_EQ(ImageList_GetImageCount(small_.get()), 3);
 }
 
 TEST_F(IconExtractorTest, EveryRequestAddsTheSameImageToBothLists) {
@@ -155,34 +160,12 @@ TEST_F(IconExtractorTest, EveryRequestAddsTheSameImageToBothLists) {
     EXPECT_EQ(extractor_.RetrieveExtIcon(".qzt"), 1);
     EXPECT_EQ(extractor_.RetrieveExtIcon(".q~"), 2);
 
-    ASSERT_EQ(Count(small_), 3);
-    ASSERT_EQ(Count(large_), 3);
+    ASSERT_EQ(ImageList_GetImageCount(small_.get()), 3);
+    ASSERT_EQ(ImageList_GetImageCount(large_.get()), 3);
     EXPECT_EQ(Draw(large_, 1), Draw(large_, 0));
     for (int index = 0; index < 3; ++index) {
         EXPECT_EQ(Draw(small_, index), Draw(large_, index));
     }
-}
-
-TEST_F(IconExtractorTest, LooksFilesUpByTheirLastFourCharacters) {
-    const Picture longType = DrawLarge(extractor_.RetrieveExtIcon(".qzrt"));
-    const Picture shortType = DrawLarge(extractor_.RetrieveExtIcon(".q~"));
-    ASSERT_FALSE(IsBlank(longType));
-    ASSERT_FALSE(IsBlank(shortType));
-
-    EXPECT_FALSE(extractor_.RetrieveFileIcon("page.qzrt", "C:\\"));  // looked up as "qzrt"
-    EXPECT_EQ(DrawLarge(extractor_.RetrieveFileIcon(".q~", "C:\\")), shortType);
-    EXPECT_FALSE(extractor_.RetrieveFileIcon("a.q~", "C:\\"));  // looked up as "a.q~"
-}
-
-TEST_F(IconExtractorTest, OnlyALowerCaseExeIsAProgramWithItsOwnIcon) {
-    const std::string system = SystemFolder();
-    const Picture own = IconOf(SystemFile("notepad.exe"), 0);
-    ASSERT_FALSE(IsBlank(own));
-
-    EXPECT_EQ(DrawLarge(extractor_.RetrieveFileIcon("notepad.exe", system)), own);
-    const Picture upper = DrawLarge(extractor_.RetrieveFileIcon("NOTEPAD.EXE", system));
-    EXPECT_EQ(upper, DrawLarge(extractor_.RetrieveExtIcon(".EXE")));
-    EXPECT_NE(upper, own);
 }
 
 TEST_F(IconExtractorTest, ReturnsTheIndexOfTheListSetAsLarge) {
@@ -192,8 +175,8 @@ TEST_F(IconExtractorTest, ReturnsTheIndexOfTheListSetAsLarge) {
 
     EXPECT_EQ(smallOnly.RetrieveExtIcon(".qzt"), 0);
     EXPECT_EQ(extractor_.RetrieveExtIcon(".qzt"), 0);  // the small list got it as 1
-    EXPECT_EQ(Count(small_), 2);
-    EXPECT_EQ(Count(large_), 1);
+    EXPECT_EQ(ImageList_GetImageCount(small_.get()), 2);
+    EXPECT_EQ(ImageList_GetImageCount(large_.get()), 1);
     EXPECT_FALSE(unset.RetrieveExtIcon(".qzt"));
 }
 

@@ -15,35 +15,6 @@
 namespace quorin {
 namespace {
 
-TEST(MatchesSortTest, TheSortedColumnFlipsAndAnotherColumnStartsAscending) {
-    struct Step {
-        int column;
-        int key;
-        MatchesSortOrder order;
-    };
-    constexpr auto kUp = MatchesSortOrder::Ascending;
-    constexpr auto kDown = MatchesSortOrder::Descending;
-    const Step steps[] = {
-        {MatchesSort::kName, MatchesSort::kName, kDown},  // the very first click on "Name"
-        {MatchesSort::kName, MatchesSort::kName, kUp},
-        {MatchesSort::kLocation, MatchesSort::kLocation, kUp},
-        {MatchesSort::kLocation, MatchesSort::kLocation, kDown},
-        {MatchesSort::kName, MatchesSort::kName, kUp},
-    };
-    MatchesSort sort;
-    EXPECT_FALSE(sort.sorted);
-    for (const Step& step : steps) {
-        sort.ColumnClick(step.column);
-        EXPECT_TRUE(sort.sorted);
-        EXPECT_EQ(sort.sortKey, step.key);
-        EXPECT_EQ(sort.sortOrder, step.order);
-    }
-
-    MatchesSort fresh;
-    fresh.ColumnClick(MatchesSort::kLocation);
-    EXPECT_EQ(fresh.sortOrder, kUp);
-}
-
 TEST(MatchesLayoutTest, GrowsTheWidthFirstThenTheHeight) {
     EXPECT_FALSE(MatchesMinimumFix({3000, 3000}));
     EXPECT_FALSE(MatchesMinimumFix({9000, 7000}));
