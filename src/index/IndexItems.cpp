@@ -10,6 +10,7 @@
 
 #include "index/SubstringSearcher.h"
 #include "platform/Errors.h"
+#include "platform/HugePages.h"
 #include "platform/Text.h"
 
 namespace quorin {
@@ -44,7 +45,34 @@ UpperPiece UpperCased(__m128i bytes) {
     return {_mm_sub_epi8(bytes, _mm_and_si128(lower, _mm_set1_epi8('a' - 'A'))),
             static_cast<uint64_t>(_mm_movemask_epi8(lower))};
 }
+
+// The 16 bytes of a name of 16 or more from `at` on; a name of 8 to 15 bytes is one piece of
+// its first 8 bytes and its last 8.
+__m128i Piece(std::string_view name, size_t at) {
+    if (name.size() >= 16) {
+        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(name.data() + at));
+    }
+    uint64_t low = 0;
+    uint64_t high = 0;
+    std::memcpy(&low, name.data(), 8);
+    std::memcpy(&high, name.data() + name.size() - 8, 8);
+    return _mm_set_epi64x(static_cast<int64_t>(high), static_cast<int64_t>(low));
+}
 #endif
+
+bool IsAscii(std::string_view name) {
+#if defined(__SSE2__)
+    if (name.size() >= 8) {
+        const size_t last = name.size() >= 16 ? name.size() - 16 : 0;
+        __m128i seen = Piece(name, last);
+        for (size_t i = 0; i < last; i += 16) {
+            seen = _mm_or_si128(seen, Piece(name, i));
+        }
+        return _mm_movemask_epi8(seen) == 0;
+    }
+#endif
+    return std::none_of(name.begin(), name.end(), [](char c) { return (c & 0x80) != 0; });
+}
 
 uint32_t Offset(size_t size) {
     if (size > std::numeric_limits<uint32_t>::max()) {
@@ -62,55 +90,50 @@ void IndexItems::ReserveForFile(uintmax_t fileBytes) {
     lowerBits_.reserve(bytes / 64 + 2);
     slotStarts_.reserve(records);
     directories_.reserve(records);
+    AdviseHugePages(upperNames_.data(), upperNames_.capacity());
+    AdviseHugePages(lowerBits_.data(), lowerBits_.capacity() * sizeof(uint64_t));
+    AdviseHugePages(slotStarts_.data(), slotStarts_.capacity() * sizeof(uint32_t));
+    AdviseHugePages(directories_.data(), directories_.capacity() * sizeof(int32_t));
 }
 
 void IndexItems::Add(std::string_view filename, int32_t directory) {
+    AddName(filename, directory, IsAscii(filename));
+}
+
+void IndexItems::AddAscii(std::string_view filename, int32_t directory) {
+    AddName(filename, directory, true);
+}
+
+void IndexItems::AddName(std::string_view filename, int32_t directory, bool ascii) {
     if (directory < 0) {
         throw OutOfRangeError("The folder number " + std::to_string(directory) +
                               " is outside the folder table.");
     }
     slotStarts_.push_back(Offset(upperNames_.size()));
-    if (!AddAscii(filename)) {
+    if (ascii) {
+        AppendAscii(filename);
+    } else {
         AddOther(filename);
     }
     upperNames_.push_back(kNameEnd);
     directories_.push_back(directory);
 }
 
-// Upper-cases the name 16 bytes at a time and notes which were lower-case letters; false,
-// adding nothing, when it is not ASCII. The name is read where the caller has it, never from the
-// copy just written, whose loads would wait on the copy's stores. A name's last piece is the 16
-// bytes that end it, which overlap the piece before: upper-casing a byte twice changes nothing.
-bool IndexItems::AddAscii(std::string_view filename) {
+// Upper-cases the name 16 bytes at a time and notes which were lower-case letters. The name is
+// read where the caller has it, never from the copy just written, whose loads would wait on the
+// copy's stores. A name's last piece is the 16 bytes that end it, which overlap the piece
+// before: upper-casing a byte twice changes nothing.
+void IndexItems::AppendAscii(std::string_view filename) {
     const size_t start = upperNames_.size();
     const size_t size = filename.size();
-    const char* from = filename.data();
+    upperNames_.append(filename);
+    lowerBits_.resize(upperNames_.size() / 64 + 2);
+    char* upper = upperNames_.data() + start;
 #if defined(__SSE2__)
     if (size >= 8) {
         const size_t last = size >= 16 ? size - 16 : 0;
-        // A name of 8 to 15 bytes is one piece of its first 8 bytes and its last 8.
-        const auto piece = [&](size_t at) {
-            if (size >= 16) {
-                return _mm_loadu_si128(reinterpret_cast<const __m128i*>(from + at));
-            }
-            uint64_t low = 0;
-            uint64_t high = 0;
-            std::memcpy(&low, from, 8);
-            std::memcpy(&high, from + size - 8, 8);
-            return _mm_set_epi64x(static_cast<int64_t>(high), static_cast<int64_t>(low));
-        };
-        __m128i seen = piece(last);
-        for (size_t i = 0; i < last; i += 16) {
-            seen = _mm_or_si128(seen, piece(i));
-        }
-        if (_mm_movemask_epi8(seen) != 0) {
-            return false;
-        }
-        upperNames_.append(filename);
-        lowerBits_.resize(upperNames_.size() / 64 + 2);
-        char* upper = upperNames_.data() + start;
         for (size_t i = 0;; i = std::min(i + 16, last)) {
-            const auto [bytes, lowerMask] = UpperCased(piece(i));
+            const auto [bytes, lowerMask] = UpperCased(Piece(filename, i));
             if (lowerMask != 0 && size >= 16) {
                 _mm_storeu_si128(reinterpret_cast<__m128i*>(upper + i), bytes);
                 OrBits(lowerBits_, start + i, lowerMask);
@@ -125,22 +148,15 @@ bool IndexItems::AddAscii(std::string_view filename) {
                 break;
             }
         }
-        return true;
+        return;
     }
 #endif
-    if (std::any_of(from, from + size, [](char c) { return (c & 0x80) != 0; })) {
-        return false;
-    }
-    upperNames_.append(filename);
-    lowerBits_.resize(upperNames_.size() / 64 + 2);
-    char* upper = upperNames_.data() + start;
     for (size_t i = 0; i < size; ++i) {
         if (upper[i] >= 'a' && upper[i] <= 'z') {
             upper[i] = static_cast<char>(upper[i] - ('a' - 'A'));
             OrBits(lowerBits_, start + i, 1);
         }
     }
-    return true;
 }
 
 void IndexItems::AddOther(std::string_view filename) {
