@@ -50,8 +50,8 @@ class IndexItems {
     void AddName(std::string_view filename, int32_t directory, bool ascii);
     void AppendAscii(std::string_view filename);
     void AddOther(std::string_view filename);
-    void FindInBlock(const SubstringSearcher& searcher, size_t first, size_t last,
-                     std::vector<int32_t>& positions) const;
+    void FindAll(const SubstringSearcher& searcher, SearchProgress* progress,
+                 std::vector<int32_t>& positions) const;
     size_t CheckedIndex(int32_t position) const;
     std::string_view UpperName(size_t index) const;
     size_t SlotStart(size_t index) const;
