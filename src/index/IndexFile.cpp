@@ -62,10 +62,11 @@ bool ReadFolders(TextFileReader& reader, std::string_view& line, uintmax_t fileB
     if (!count) {
         return false;
     }
-    // A count the file is too short for is damage found on the way, so the reservation is held
-    // to what the file can hold.
-    folders.Reserve(static_cast<int32_t>(std::min<uintmax_t>(*count, fileBytes)),
-                    static_cast<size_t>(fileBytes));
+    // The reservation is held to what the file can hold (a folder line of a real index is
+    // rarely shorter than 16 bytes, and the table's text is about a quarter of the lines'), so
+    // that a damaged count does not reserve gigabytes.
+    folders.Reserve(static_cast<int32_t>(std::min<uintmax_t>(*count, fileBytes / 16)),
+                    static_cast<size_t>(fileBytes / 4));
     folders.Clear();
     for (int32_t slot = 0; slot < *count; ++slot) {
         if (!reader.ReadLine(line)) {

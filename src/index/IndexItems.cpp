@@ -249,6 +249,12 @@ void IndexItems::FindAll(const SubstringSearcher& searcher, SearchProgress* prog
         all.size() >= reach ? (all.size() - reach) / kPlaces * kPlaces + kPlaces : 0;
     const std::string tail = searcher.PaddedTail(all, std::min(tailStart, all.size()), kNameEnd);
     const SubstringSearcher nameEnds(std::string_view(&kNameEnd, 1));
+    // Held here, as the compiler cannot tell that adding a position leaves the members alone.
+    const uint32_t* const starts = slotStarts_.data();
+    const size_t records = slotStarts_.size();
+    const auto slotStart = [&](size_t index) {
+        return index < records ? starts[index] : all.size();
+    };
     size_t record = 0;    // the record that starts at nextFree
     size_t nextFree = 0;  // where the first record not yet given starts
     int32_t nextStep = kProgressStep;
@@ -264,7 +270,7 @@ void IndexItems::FindAll(const SubstringSearcher& searcher, SearchProgress* prog
             const int at = std::countr_zero(hits);
             const size_t hit = start + static_cast<size_t>(at);
             // Most often, for a short word, the hit is in the record at nextFree.
-            if (SlotStart(record + 1) <= hit && nextFree >= start) {
+            if (slotStart(record + 1) <= hit && nextFree >= start) {
                 // The records from nextFree to the hit end among these bytes: counting their
                 // ends costs no branch, where walking on cost one the processor could not
                 // foresee.
@@ -274,16 +280,16 @@ void IndexItems::FindAll(const SubstringSearcher& searcher, SearchProgress* prog
                 record += CountBits(ends & (~uint64_t{0} << (nextFree - start)) &
                                     ((uint64_t{1} << at) - 1));
             } else {
-                while (SlotStart(record + 1) <= hit) {
+                while (slotStart(record + 1) <= hit) {
                     ++record;
                 }
             }
             positions.push_back(static_cast<int32_t>(record) + 1);
-            nextFree = SlotStart(++record);
+            nextFree = slotStart(++record);
             hits = DropBefore(hits, start, nextFree);
         }
-        for (; progress && nextStep <= Count() &&
-               SlotStart(static_cast<size_t>(nextStep)) <= start + kPlaces;
+        for (; progress && static_cast<size_t>(nextStep) <= records &&
+               slotStart(static_cast<size_t>(nextStep)) <= start + kPlaces;
              nextStep += kProgressStep) {
             progress->SetValue(nextStep);
         }
