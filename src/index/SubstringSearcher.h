@@ -29,7 +29,7 @@ class SubstringSearcher {
     size_t Find(std::string_view text) const;
 
     // Bit i set where the needle begins at place + i (every bit for an empty needle). Reads the
-    // kPlaces + Size() - 1 bytes from place on.
+    // kPlaces + Size() - 1 bytes from place on. Inline, as a lookup calls it for every 64 bytes.
     uint64_t Starts(const char* place) const {
         if (needle_.empty()) {
             return ~uint64_t{0};
