@@ -84,6 +84,19 @@ size_t CountBits(uint64_t bits) {
     return static_cast<size_t>((bits * 0x0101010101010101) >> 56);
 }
 
+// The first index from `from` on whose start lies beyond `at`, or `count`: by steps that double,
+// then halving, as a rare word's hits are tens of thousands of records apart.
+size_t FirstStartAfter(const uint32_t* starts, size_t from, size_t count, size_t at) {
+    size_t low = from;  // the starts before it lie at `at` or before
+    size_t probe = from;
+    for (size_t step = 1; probe < count && starts[probe] <= at; step *= 2) {
+        low = probe + 1;
+        probe = low + step;
+    }
+    const uint32_t* const high = starts + std::min(probe, count);
+    return static_cast<size_t>(std::upper_bound(starts + low, high, at) - starts);
+}
+
 // The hits of the 64 places from start that lie at `from` or beyond.
 uint64_t DropBefore(uint64_t hits, size_t start, size_t from) {
     if (from <= start) {
@@ -237,8 +250,8 @@ std::vector<int32_t> IndexItems::Find(std::string_view upperWord, SearchProgress
 
 // All names are searched as one text, 64 bytes at a time, rather than name by name (which
 // restarted the search at every record of a short word's 1,200,000): a hit is given to the
-// record that holds it, found from the records' starts or by counting name ends, and the hits up
-// to that record's end are dropped. A rare word costs little more than the scan.
+// record that holds it, found by counting name ends or by a search of the records' starts, and
+// the hits up to that record's end are dropped. A rare word costs little more than the scan.
 void IndexItems::FindAll(const SubstringSearcher& searcher, SearchProgress* progress,
                          std::vector<int32_t>& positions) const {
     constexpr size_t kPlaces = SubstringSearcher::kPlaces;
@@ -269,7 +282,7 @@ void IndexItems::FindAll(const SubstringSearcher& searcher, SearchProgress* prog
         while (hits != 0) {
             const int at = std::countr_zero(hits);
             const size_t hit = start + static_cast<size_t>(at);
-            // Most often, for a short word, the hit is in the record at nextFree.
+            // For a short word the hit is most often in the record at nextFree.
             if (slotStart(record + 1) <= hit && nextFree >= start) {
                 // The records from nextFree to the hit end among these bytes: counting their
                 // ends costs no branch, where walking on cost one the processor could not
@@ -279,10 +292,8 @@ void IndexItems::FindAll(const SubstringSearcher& searcher, SearchProgress* prog
                 }
                 record += CountBits(ends & (~uint64_t{0} << (nextFree - start)) &
                                     ((uint64_t{1} << at) - 1));
-            } else {
-                while (slotStart(record + 1) <= hit) {
-                    ++record;
-                }
+            } else if (slotStart(record + 1) <= hit) {
+                record = FirstStartAfter(starts, record + 1, records, hit) - 1;
             }
             positions.push_back(static_cast<int32_t>(record) + 1);
             nextFree = slotStart(++record);
