@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "platform/Errors.h"
+#include "platform/HugePages.h"
 #include "platform/Text.h"
 
 namespace quorin {
@@ -63,6 +64,13 @@ bool FolderTable::Append(std::string_view path) {
         StoreAgain(slot, path);
     }
     return true;
+}
+
+void FolderTable::Reserve(int32_t slots, size_t textBytes) {
+    text_.reserve(textBytes);
+    pieces_.reserve(static_cast<size_t>(slots));
+    AdviseHugePages(text_.data(), text_.capacity());
+    AdviseHugePages(pieces_.data(), pieces_.capacity() * sizeof(Piece));
 }
 
 std::optional<int32_t> FolderTable::Find(std::string_view path) const {

@@ -35,6 +35,10 @@ class FolderTable {
 
     void Clear() { count_ = 0; }
 
+    // Sizes the table for that many slots whose paths take at most textBytes, so that filling it
+    // never copies what it holds.
+    void Reserve(int32_t slots, size_t textBytes);
+
     // The first used slot whose path equals path when both are upper-cased.
     std::optional<int32_t> Find(std::string_view path) const;
 

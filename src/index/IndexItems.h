@@ -24,6 +24,8 @@ class IndexItems {
 
     // Throws OutOfRangeError for a negative directory; the folder table checks the others.
     void Add(std::string_view filename, int32_t directory);
+    // The same for a name known to be ASCII.
+    void AddAscii(std::string_view filename, int32_t directory);
 
     int32_t Count() const { return static_cast<int32_t>(directories_.size()); }
     size_t NameBytes() const { return upperNames_.size(); }
@@ -45,10 +47,11 @@ class IndexItems {
         uint32_t size;
     };
 
-    bool AddAscii(std::string_view filename);
+    void AddName(std::string_view filename, int32_t directory, bool ascii);
+    void AppendAscii(std::string_view filename);
     void AddOther(std::string_view filename);
-    void FindInBlock(const SubstringSearcher& searcher, size_t first, size_t last,
-                     std::vector<int32_t>& positions) const;
+    void FindAll(const SubstringSearcher& searcher, SearchProgress* progress,
+                 std::vector<int32_t>& positions) const;
     size_t CheckedIndex(int32_t position) const;
     std::string_view UpperName(size_t index) const;
     size_t SlotStart(size_t index) const;

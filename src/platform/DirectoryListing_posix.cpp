@@ -61,10 +61,18 @@ void ListOpenFolder(const UniqueFd& folderFd, const EntryCallback& onEntry) {
     }
 }
 
-UniqueFd OpenFolder(int atFd, const std::string& path) {
+UniqueFd OpenFolder(int atFd, const std::string& path, int mode = O_RDONLY) {
     return UniqueFd(
-        openat(atFd, path.empty() ? "/" : path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        openat(atFd, path.empty() ? "/" : path.c_str(), mode | O_DIRECTORY | O_CLOEXEC));
 }
+
+// A parent is only a place to open its subfolders from: where the system has them, a path-only
+// handle costs less to open and to close (a sixth of a walk's opens are of parents).
+#if defined(O_PATH)
+constexpr int kParentMode = O_PATH;
+#else
+constexpr int kParentMode = O_RDONLY;
+#endif
 
 }  // namespace
 
@@ -91,9 +99,9 @@ void FolderLister::List(const std::string& folder, bool /*includeSystem*/,
     const std::string_view parent(folder.data(), slash);
     if (parent_->path != parent) {
         parent_->path = parent;
-        parent_->fd = OpenFolder(AT_FDCWD, parent_->path);
+        parent_->fd = OpenFolder(AT_FDCWD, parent_->path, kParentMode);
     }
-    // A parent that may be passed through but not read is no help.
+    // A parent that could not be opened is no help.
     ListOpenFolder(parent_->fd ? OpenFolder(parent_->fd.get(), folder.substr(slash + 1))
                                : OpenFolder(AT_FDCWD, folder),
                    onEntry);

@@ -34,13 +34,8 @@ std::string TemporaryNameFor(const std::string& path) {
     return path + suffix;
 }
 
-struct LineScan {
-    const char* end;  // the CR or LF that ends the line, or the end of the text
-    bool ascii;       // no byte of the line is above 0x7F, so it needs no UTF-8 check
-};
+}  // namespace
 
-// Lines are short and a file may hold millions: 16 bytes at a time are searched for a line end
-// and their high bits collected on the way.
 LineScan ScanLine(const char* from, const char* last) {
     const char* p = from;
     unsigned highBits = 0;
@@ -65,8 +60,6 @@ LineScan ScanLine(const char* from, const char* last) {
     }
     return LineScan{p, highBits == 0};
 }
-
-}  // namespace
 
 std::string ReadWholeFile(const std::string& path) {
     std::string bytes;

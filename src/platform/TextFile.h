@@ -17,6 +17,15 @@ std::string ReadWholeFile(const std::string& path);
 // Throws FileError naming the file on any failure.
 void ReplaceFileWhole(const std::string& path, std::string_view content);
 
+struct LineScan {
+    const char* end;  // the CR or LF that ends the line, or `last`
+    bool ascii;       // no byte of the line is above 0x7F, so it needs no UTF-8 check
+};
+
+// Finds the end of the line that begins at `from`, 16 bytes at a time: lines are short and a
+// file may hold millions.
+LineScan ScanLine(const char* from, const char* last);
+
 // Reads a text file line by line. CR LF, LF or a lone CR ends a line; the end of the file ends
 // the last line. A line that is not valid UTF-8 is decoded from the ANSI code page. The file is
 // read in pieces, so that a file of a million lines never sits in memory whole.
@@ -29,6 +38,11 @@ class TextFileReader {
     // The same without a copy; the view lasts until the next call.
     bool ReadLine(std::string_view& line);
     bool AtEnd();
+
+    // The bytes read and not yet handed out, for a caller that takes lines of a shape it knows
+    // straight from them; Skip hands out the first `count` of them as lines would.
+    std::string_view Ahead() const { return std::string_view(buffer_).substr(pos_, end_ - pos_); }
+    void Skip(size_t count) { pos_ += count; }
 
   private:
     void ReadMore();
