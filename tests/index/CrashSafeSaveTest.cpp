@@ -22,33 +22,26 @@ constexpr double kOneSecond = 1.0 / 86400;
 constexpr int kKills = 100;
 
 // "index.txt" and "words.txt" are saved by a child process that is killed at random moments;
-// whatever moment it dies in, each file must be exactly one of the versions it was writing.
+// whatever moment it dies in, each file must be exactly one of the versions it was writing. Few
+// files, since creating files is slow on a busy disk, but long names, so that a save of either
+// file takes long enough to be killed in the middle.
 class CrashSafeSave : public EngineFixture {
   protected:
-    // Few files, since creating files is slow on a busy disk, with long names, so that a save
-    // takes long enough to be killed in the middle.
     void SetUp() override {
         UseRoots({"root"});
-        const std::string padding(100, 'x');
-        for (int folder = 0; folder < 4; ++folder) {
-            for (int file = 0; file < 50; ++file) {
-                tree.WriteFile("root/folder " + std::to_string(folder) + "/file " +
-                                   std::to_string(file) + padding + ".txt",
-                               "");
-            }
+        for (int file = 0; file < 200; ++file) {
+            tree.WriteFile("root/folder " + std::to_string(file % 4) + "/file " +
+                               std::to_string(file / 4) + std::string(100, 'x') + ".txt",
+                           "");
         }
     }
 
-    // Long file names make a words file of a quarter of a megabyte, whose writing takes long
-    // enough to be killed in the middle.
     static void AssignWords(clsIndex& index, int count) {
-        while (index.Words().Count() > 0) {
-            index.Words().Remove(1);
-        }
-        const std::string padding(1000, 'y');
+        index.Words() = clsItems();
         for (int i = 0; i < count; ++i) {
-            index.Words().Add("file " + std::to_string(i % 50) + padding + ".txt", 1 + i % 4,
-                              "word" + std::to_string(i), "word" + std::to_string(i));
+            const std::string word = "word" + std::to_string(i);
+            index.Words().Add("file " + std::to_string(i % 50) + std::string(1000, 'y') + ".txt",
+                              1 + i % 4, word, word);
         }
     }
 

@@ -10,18 +10,18 @@ namespace {
 
 constexpr wchar_t kUserClasses[] = L"Software\\Classes\\";
 
-bool CreatedAndClosed(HKEY root, const std::wstring& name) {
+// Null when the key cannot be created.
+UniqueKey CreatedKey(HKEY root, const std::wstring& name) {
     HKEY key = nullptr;
-    const LONG result = RegCreateKeyExW(root, name.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
-                                        KEY_ALL_ACCESS, nullptr, &key, nullptr);
-    const UniqueKey closer(result == ERROR_SUCCESS ? key : nullptr);
-    return result == ERROR_SUCCESS;
+    const bool created = RegCreateKeyExW(root, name.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
+                                         KEY_ALL_ACCESS, nullptr, &key, nullptr) == ERROR_SUCCESS;
+    return UniqueKey(created ? key : nullptr);
 }
 
 bool ClassesRootShowsUserClasses() {
     static const bool shows = [] {
         const std::wstring probe = L".quorin-merge-probe";
-        if (!CreatedAndClosed(HKEY_CURRENT_USER, kUserClasses + probe)) {
+        if (!CreatedKey(HKEY_CURRENT_USER, kUserClasses + probe)) {
             return false;
         }
         HKEY key = nullptr;
@@ -107,12 +107,11 @@ UniqueKey ScratchClasses::Create(const std::string& key) {
     if (std::find(topKeys_.begin(), topKeys_.end(), top) == topKeys_.end()) {
         topKeys_.push_back(top);
     }
-    HKEY created = nullptr;
-    if (RegCreateKeyExW(root_, FullName(key).c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
-                        KEY_ALL_ACCESS, nullptr, &created, nullptr) != ERROR_SUCCESS) {
+    UniqueKey created = CreatedKey(root_, FullName(key));
+    if (!created) {
         throw std::runtime_error("cannot create the scratch key " + key);
     }
-    return UniqueKey(created);
+    return created;
 }
 
 std::wstring ScratchClasses::FullName(const std::string& key) const {
