@@ -152,7 +152,7 @@ TEST_F(EngineTest, CancelKeepsThePreviousIndexAndItsFile) {
     auto index = MakeIndex();
     ui.onEvents = [&] { index->Cancel(); };
     index->CreateIndex(false, ui);  // the first build: no index to fall back on
-    EXPECT_TRUE(ui.prompts.at(0).ends_with("the index created at ."));
+    EXPECT_TRUE(prompter.boxes.at(0).text.ends_with("the index created at ."));
     EXPECT_FALSE(FileExists(ProgramFile("index.txt")));
     EXPECT_EQ(index->LastUpdated, 0);
 
@@ -168,11 +168,12 @@ TEST_F(EngineTest, CancelKeepsThePreviousIndexAndItsFile) {
     ui.onEvents = [&] { index->Cancel(); };
     index->CreateIndex(true, ui);
 
-    EXPECT_EQ(ui.prompts.at(1),
+    const test::ScriptedPrompter::Box& box = prompter.boxes.at(1);
+    EXPECT_EQ(box.title + "|" + box.text,
               "Update Index Cancelled|Indexing has been canceled. Quorin will continue to use the "
               "index created at " +
                   FormatLocalDateTime(45000.5) + ".");
-    EXPECT_TRUE(ui.okInformation);
+    EXPECT_TRUE(box.buttons == PromptButtons::Ok && box.icon == PromptIcon::Information);
     EXPECT_EQ(ReadWholeFile(ProgramFile("index.txt")), changed);
     EXPECT_EQ(index->LastUpdated, 45000.5);
     EXPECT_EQ(Matches(*index, ".txt"), (Paths{TreePath("r/old.txt")}));

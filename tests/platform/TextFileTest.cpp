@@ -26,6 +26,8 @@
 namespace quorin {
 namespace {
 
+using namespace std::string_literals;
+
 std::vector<std::string> ReadLines(const std::string& path) {
     TextFileReader reader(path);
     std::vector<std::string> lines;
@@ -102,18 +104,6 @@ TEST(TextFileReader, LinesSurviveTheReadersPieces) {
     }
 }
 
-TEST(ReplaceFileWhole, CreatesAndReplacesTheWholeFile) {
-    TempFolder temp;
-    const std::string path = JoinPath(temp.Path(), "index.txt");
-    for (const std::string& content :
-         {std::string("first version, rather long\r\n"), std::string("second\r\n"), std::string(),
-          std::string(3 * 1024 * 1024 + 7, 'x')}) {
-        ReplaceFileWhole(path, content);
-        EXPECT_TRUE(ReadWholeFile(path) == content) << content.size() << " bytes";
-    }
-    EXPECT_EQ(FileCount(temp.Path()), 1u) << "a temporary file was left behind";
-}
-
 std::string ErrorOf(const std::function<void()>& action) {
     try {
         action();
@@ -125,8 +115,16 @@ std::string ErrorOf(const std::function<void()>& action) {
 
 // Each failure names the file in a sentence with the system's reason, leaves what was there and
 // no temporary file.
-TEST(ReplaceFileWhole, AFailedReadOrSaveNamesTheFileAndLeavesWhatWasThere) {
+TEST(ReplaceFileWhole, ReplacesTheWholeFileAndAFailedReadOrSaveNamesTheFileAndLeavesWhatWasThere) {
     TempFolder temp;
+    const std::string index = JoinPath(temp.Path(), "index.txt");
+    for (const std::string& content : {"first version, rather long\r\n"s, "second\r\n"s, ""s,
+                                       std::string(3 * 1024 * 1024 + 7, 'x')}) {
+        ReplaceFileWhole(index, content);
+        EXPECT_TRUE(ReadWholeFile(index) == content) << content.size() << " bytes";
+    }
+    EXPECT_EQ(FileCount(temp.Path()), 1u) << "a temporary file was left behind";
+    std::filesystem::remove(FsPath(index));
     const std::string missing = JoinPath(JoinPath(temp.Path(), "missing"), "index.txt");
     for (const std::string& message : {ErrorOf([&] { TextFileReader reader(missing); }),
                                        ErrorOf([&] { ReplaceFileWhole(missing, "data"); })}) {
