@@ -76,7 +76,7 @@ class EngineFixture : public ::testing::Test {
     TempFolder program;
     TempFolder tree;
     MemorySettingsStore settings;
-    test::TestClock clock;  // moved on so that every build writes a different first line
+    test::TestClock clock;
     ScriptedUi ui;
     test::ScriptedPrompter prompter;
 };
