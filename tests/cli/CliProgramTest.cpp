@@ -24,6 +24,12 @@ struct ProcessResult {
     std::string err;
 };
 
+#ifdef _WIN32
+constexpr char kCli[] = "Z:" QUORIN_CLI_PATH;  // Wine shows the build tree as drive Z:
+#else
+constexpr char kCli[] = QUORIN_CLI_PATH;
+#endif
+
 const std::string kUsageLine =
     "usage: quorin-cli [--folder DIR] [--settings FILE] build | find WORD | words [add WORD PATH | "
     "delete WORD]\n";
@@ -45,18 +51,16 @@ class CliProgramTest : public ::testing::Test {
     ProcessResult RunTheProgram(const std::vector<std::string>& args) const {
         const std::string out = JoinPath(folders_.Path(), "out.txt");
         const std::string err = JoinPath(folders_.Path(), "err.txt");
-#ifdef _WIN32
-        const std::string quote = "\"", cli = "Z:" QUORIN_CLI_PATH;  // Wine's drive Z: is "/"
-#else
-        const std::string quote = "'", cli = QUORIN_CLI_PATH;
-#endif
-        std::string command = quote + cli + quote;
+        const auto quoted = [](std::string_view text) {
+            return std::string("\"").append(text).append("\"");
+        };
+        std::string command = quoted(kCli);
         for (const std::string& arg : args) {
-            command += " " + quote + arg + quote;  // the tests pass no quotes
+            command.append(" ").append(quoted(arg));  // they hold no quotes, dollars or backquotes
         }
-        command += " >" + quote + out + quote + " 2>" + quote + err + quote;
+        command.append(" >").append(quoted(out)).append(" 2>").append(quoted(err));
 #ifdef _WIN32
-        const int exitCode = _wsystem(Widen(quote + command + quote).c_str());  // cmd drops these
+        const int exitCode = _wsystem(Widen(quoted(command)).c_str());  // cmd drops the outer ones
 #else
         const int status = std::system(command.c_str());
         const int exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
