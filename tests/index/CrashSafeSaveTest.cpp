@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <csignal>
-#include <functional>
 #include <random>
 #include <string>
 #include <thread>
@@ -16,8 +15,6 @@
 
 namespace quorin {
 namespace {
-
-constexpr int kKills = 100;
 
 // "index.txt" and "words.txt" are saved by a child process that is killed at random moments;
 // whatever moment it dies in, each file must be exactly one of the versions it was writing. Few
@@ -42,40 +39,8 @@ class CrashSafeSave : public EngineFixture {
                               1 + i % 4, word, word);
         }
     }
-
-    // Runs saveForever in a child process, which calls saved() before its first save and after
-    // each one. The child is killed with SIGKILL at `fraction` of the time one save took, so that
-    // the kills fall on every step of a save however fast or slow the machine is.
-    using Saver = std::function<void(const std::function<void()>& saved)>;
-    static void KillSaverPartWay(double fraction, const Saver& saveForever) {
-        int pipeEnds[2];
-        ASSERT_EQ(pipe(pipeEnds), 0);
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            alarm(60);  // never outlive a parent that failed to kill
-            close(pipeEnds[0]);
-            try {
-                saveForever([&] { [[maybe_unused]] const auto sent = write(pipeEnds[1], "s", 1); });
-            } catch (...) {
-            }
-            _exit(3);
-        }
-        close(pipeEnds[1]);
-        char signal[2] = {};
-        const bool started = read(pipeEnds[0], &signal[0], 1) == 1;
-        const auto start = std::chrono::steady_clock::now();
-        const bool savedOnce = started && read(pipeEnds[0], &signal[1], 1) == 1;
-        std::this_thread::sleep_for((std::chrono::steady_clock::now() - start) * fraction);
-        kill(child, SIGKILL);
-        close(pipeEnds[0]);
-        int status = 0;
-        waitpid(child, &status, 0);
-        ASSERT_TRUE(savedOnce && WIFSIGNALED(status)) << "the saver stopped by itself: " << status;
-    }
 };
 
-// Every other child rebuilds the index, the others save two sets of words in turn.
 TEST_F(CrashSafeSave, KilledSavesLeaveOneWholeVersionOfEachFile) {
     const auto index = MakeIndex();
     index->CreateIndex(true, ui);
@@ -87,25 +52,51 @@ TEST_F(CrashSafeSave, KilledSavesLeaveOneWholeVersionOfEachFile) {
         index->SaveWords();
         words.push_back(ReadWholeFile(ProgramFile("words.txt")));
     }
+    // Every other child rebuilds the index, the others save two sets of words in turn. Each
+    // tells the parent before its first save and after each one, and is killed with SIGKILL at a
+    // random part of the time one save took, so that the kills fall on every step of a save
+    // however fast or slow the machine is.
     std::mt19937 random(7);
     std::uniform_real_distribution<double> part(0, 1);
-    for (int kill = 0; kill < kKills; ++kill) {
-        KillSaverPartWay(part(random), [&](const auto& saved) {
-            for (int round = 0;; ++round) {
-                saved();
-                if (kill % 2 == 0) {
-                    index->CreateIndex(true, ui);
-                } else {
-                    AssignWords(*index, round % 2 == 0 ? 150 : 250);
-                    index->SaveWords();
+    for (int child = 0; child < 100; ++child) {
+        int pipeEnds[2];
+        ASSERT_EQ(pipe(pipeEnds), 0);
+        const pid_t pid = fork();
+        ASSERT_GE(pid, 0);
+        if (pid == 0) {
+            alarm(60);  // never outlive a parent that failed to kill
+            close(pipeEnds[0]);
+            try {
+                for (int round = 0;; ++round) {
+                    [[maybe_unused]] const auto sent = write(pipeEnds[1], "s", 1);
+                    if (child % 2 == 0) {
+                        index->CreateIndex(true, ui);
+                    } else {
+                        AssignWords(*index, round % 2 == 0 ? 150 : 250);
+                        index->SaveWords();
+                    }
                 }
+            } catch (...) {
             }
-        });
+            _exit(3);
+        }
+        close(pipeEnds[1]);
+        char signal[2] = {};
+        const bool started = read(pipeEnds[0], &signal[0], 1) == 1;
+        const auto start = std::chrono::steady_clock::now();
+        const bool savedOnce = started && read(pipeEnds[0], &signal[1], 1) == 1;
+        std::this_thread::sleep_for((std::chrono::steady_clock::now() - start) * part(random));
+        kill(pid, SIGKILL);
+        close(pipeEnds[0]);
+        int status = 0;
+        waitpid(pid, &status, 0);
+        ASSERT_TRUE(savedOnce && WIFSIGNALED(status)) << "the saver stopped by itself: " << status;
+
         const std::string savedIndex = ReadWholeFile(ProgramFile("index.txt"));
         const std::string savedWords = ReadWholeFile(ProgramFile("words.txt"));
-        ASSERT_TRUE(savedIndex == indexText) << "after kill " << kill << ": " << savedIndex.size();
+        ASSERT_TRUE(savedIndex == indexText) << "after kill " << child << ": " << savedIndex.size();
         ASSERT_TRUE(savedWords == words[0] || savedWords == words[1])
-            << "after kill " << kill << ": " << savedWords.size() << " bytes";
+            << "after kill " << child << ": " << savedWords.size() << " bytes";
     }
 }
 
