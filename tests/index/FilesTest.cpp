@@ -49,17 +49,6 @@ std::string IndexText(int folderCount, const std::vector<std::string>& lines) {
 
 using BadInput = EngineFixture;
 
-// Whether the engine took the file as whole (dated), its folder count and the names it kept.
-std::string Summary(const clsIndex& index) {
-    std::string summary = index.LastUpdated != 0 ? "dated " : "undated ";
-    summary.append(std::to_string(index.FolderCount())).append(":");
-    const std::optional<MatchList> all = index.FindMatch("");
-    for (int32_t i = 1; all && i <= all->Count(); ++i) {
-        summary.append(" ").append(all->Item(i).Filename);
-    }
-    return summary;
-}
-
 // A file's bytes and what the engine made of them.
 struct FileCase {
     const char* what;
@@ -67,6 +56,7 @@ struct FileCase {
     std::string loaded;
 };
 
+// Whether the engine took the file as whole (dated), its folder count and the names it kept.
 TEST_F(BadInput, IndexFileKeepsTheRecordsBeforeAFaultAndOnlyAWholeFileCountsAsAnIndex) {
     const FileCase cases[] = {
         {"empty file", "", "undated 0:"},
@@ -109,7 +99,14 @@ TEST_F(BadInput, IndexFileKeepsTheRecordsBeforeAFaultAndOnlyAWholeFileCountsAsAn
     for (const auto& [what, bytes, summary] : cases) {
         SCOPED_TRACE(what);
         program.WriteFile("index.txt", bytes);
-        EXPECT_EQ(Summary(*MakeIndex()), summary);
+        const auto index = MakeIndex();
+        std::string loaded = index->LastUpdated != 0 ? "dated " : "undated ";
+        loaded.append(std::to_string(index->FolderCount())).append(":");
+        const std::optional<MatchList> all = index->FindMatch("");
+        for (int32_t i = 1; all && i <= all->Count(); ++i) {
+            loaded.append(" ").append(all->Item(i).Filename);
+        }
+        EXPECT_EQ(loaded, summary);
     }
 }
 

@@ -13,10 +13,15 @@ namespace {
 
 using Names = std::vector<std::string>;
 
+// SetKeyValue writes under HKEY_CURRENT_USER only, so the tests that write keep to a key there.
 class RegistryTest : public ::testing::Test {
   protected:
-    RegistryValue Read(const std::string& key, const std::string& name = "") const {
-        return registry_.QueryValue(HKEY_CLASSES_ROOT, key, name);
+    static constexpr char kKey[] = "Software\\Quorin Tests\\Registry";
+    ~RegistryTest() override { RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Quorin Tests"); }
+
+    RegistryValue Read(const std::string& key, const std::string& name = "",
+                       HKEY root = HKEY_CLASSES_ROOT) const {
+        return registry_.QueryValue(root, key, name);
     }
     Names List(const std::string& key) const {
         return registry_.GetKeyNames(HKEY_CLASSES_ROOT, key);
@@ -84,24 +89,10 @@ TEST_F(RegistryTest, ListsSubkeysFollowedByOneEmptyName) {
     EXPECT_THROW(List("QuorinTest.Many"), OutOfRangeError);
 }
 
-// SetKeyValue writes under HKEY_CURRENT_USER only, so these tests keep to a key of their own.
-class RegistryWriteTest : public ::testing::Test {
-  protected:
-    static constexpr char kKey[] = "Software\\Quorin Tests\\Registry";
-
-    void SetUp() override { registry_.CreateNewKey(kKey, HKEY_CURRENT_USER); }
-    void TearDown() override { RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Quorin Tests"); }
-
-    RegistryValue Read(const std::string& name) const {
-        return registry_.QueryValue(HKEY_CURRENT_USER, kKey, name);
-    }
-
-    clsRegistry registry_;
-};
-
 // Text and numbers convert both ways (which texts are whole numbers is ConversionsTest's); text
 // is written with its terminating NUL; other types and missing keys get nothing.
-TEST_F(RegistryWriteTest, WritesTextAndNumbersFromEitherAndNothingElse) {
+TEST_F(RegistryTest, WritesTextAndNumbersFromEitherAndNothingElse) {
+    registry_.CreateNewKey(kKey, HKEY_CURRENT_USER);
     EXPECT_EQ(RegistryValue().AsText(), "");
     EXPECT_EQ(RegistryValue().AsNumber(), 0);
     EXPECT_EQ(RegistryValue(-2147483647 - 1).AsText(), "-2147483648");
@@ -117,10 +108,10 @@ TEST_F(RegistryWriteTest, WritesTextAndNumbersFromEitherAndNothingElse) {
     registry_.SetKeyValue(kKey, "binary", RegistryValue("data"), REG_BINARY);
     registry_.SetKeyValue("Software\\Quorin Tests\\Missing", "text", RegistryValue("x"), REG_SZ);
 
-    EXPECT_EQ(Read("text"), RegistryValue("h\xC3\xA9llo"));
-    EXPECT_EQ(Read("number"), RegistryValue("42"));
-    EXPECT_EQ(Read("fromNumber"), RegistryValue(-7));
-    EXPECT_EQ(Read("fromText"), RegistryValue(1234));
+    EXPECT_EQ(Read(kKey, "text", HKEY_CURRENT_USER), RegistryValue("h\xC3\xA9llo"));
+    EXPECT_EQ(Read(kKey, "number", HKEY_CURRENT_USER), RegistryValue("42"));
+    EXPECT_EQ(Read(kKey, "fromNumber", HKEY_CURRENT_USER), RegistryValue(-7));
+    EXPECT_EQ(Read(kKey, "fromText", HKEY_CURRENT_USER), RegistryValue(1234));
     const auto stored = [](const wchar_t* name, DWORD& type) {
         DWORD size = 0;
         const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, L"Software\\Quorin Tests\\Registry",
