@@ -20,6 +20,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -40,11 +41,8 @@ std::vector<std::string> ReadLines(const std::string& path) {
 }
 
 size_t FileCount(const std::string& folder) {
-    size_t count = 0;
-    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(FsPath(folder))) {
-        ++count;
-    }
-    return count;
+    return static_cast<size_t>(
+        std::distance(std::filesystem::directory_iterator(FsPath(folder)), {}));
 }
 
 TEST(TextFileReader, SplitsAtEveryKindOfLineEndAndDecodesEachLine) {
