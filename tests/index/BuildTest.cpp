@@ -25,7 +25,6 @@ TEST_F(EngineTest, WalkIsBreadthFirstAcrossRootsInDriveOrder) {
     auto index = MakeIndex();
     index->CreateIndex(true, ui);
     EXPECT_EQ(index->FolderCount(), 5);
-    EXPECT_EQ(index->GetPath(3), TreePath("r2/b"));
     EXPECT_EQ(Matches(*index, ""),
               (Paths{TreePath("r1/f1.txt"), TreePath("r2/f2.txt"), TreePath("r1/a/f3.txt"),
                      TreePath("r2/b/f4.txt"), TreePath("r1/a/deep/f5.txt")}));

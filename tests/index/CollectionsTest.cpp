@@ -126,26 +126,9 @@ TEST(SubstringSearcherTest, AgreesWithStdFindOnRandomTexts) {
     }
 }
 
-TEST(FolderTableTest, FindIsCaseFreeAmongUsedSlotsAndTheBoundIsFixed) {
-    FolderTable folders;
-    for (const char* path : {"C:", "C:\\WINDOWS", "D:\\Old"}) {
-        folders.Append(path);
-    }
-    EXPECT_EQ(folders.Find("c:\\windows"), 1);
-    folders.Clear();
-    folders.Append("E:");
-    EXPECT_EQ(folders.Find("D:\\Old"), std::nullopt);  // beyond the count
-    EXPECT_EQ(folders.Path(2), "D:\\Old");             // but still held
-    EXPECT_THROW(folders.Path(kFolderSlots), OutOfRangeError);
-    EXPECT_THROW(folders.Path(-1), OutOfRangeError);
-    while (folders.Append("X")) {
-    }
-    EXPECT_EQ(folders.Count(), kFolderSlots);
-}
-
 // Paths are stored as differences from the slot before; a refill after Clear must leave every
-// later slot, in the refilled block and beyond, as it was.
-TEST(FolderTableTest, RefilledSlotsAndTheSlotsAfterThemReadBackAsStored) {
+// later slot, in the refilled block and beyond, as it was. A fixed table stops at its bound.
+TEST(FolderTableTest, RefilledSlotsAndTheSlotsAfterThemReadBackAsStoredAndTheBoundIsFixed) {
     FolderTable folders(true);
     std::vector<std::string> model;
     for (int i = 0; i < 40; ++i) {
@@ -160,8 +143,16 @@ TEST(FolderTableTest, RefilledSlotsAndTheSlotsAfterThemReadBackAsStored) {
     for (size_t slot = 0; slot < model.size(); ++slot) {
         EXPECT_EQ(folders.Path(static_cast<int32_t>(slot)), model[slot]) << slot;
     }
-    EXPECT_EQ(folders.Find("d:/other57"), 19);
+    EXPECT_EQ(folders.Find("d:/other57"), 19);  // case-free
+    EXPECT_EQ(folders.Find(model[30]), std::nullopt) << "held beyond the count, not found";
     EXPECT_EQ(folders.Path(kFolderSlots - 1), "") << "never used";
+    EXPECT_THROW(folders.Path(-1), OutOfRangeError);
+
+    FolderTable fixed;
+    while (fixed.Append("X")) {
+    }
+    EXPECT_EQ(fixed.Count(), kFolderSlots);
+    EXPECT_THROW(fixed.Path(kFolderSlots), OutOfRangeError);
 }
 
 }  // namespace
