@@ -2,6 +2,7 @@
 
 #include "platform/Errors.h"
 #include "platform/registry/ScratchClasses.h"
+#include "platform/registry/SignInStart.h"
 
 #include <gtest/gtest.h>
 
@@ -125,6 +126,32 @@ TEST_F(RegistryTest, WritesTextAndNumbersFromEitherAndNothingElse) {
     EXPECT_EQ(stored(L"bad", type), 0u);
     EXPECT_EQ(registry_.GetKeyNames(HKEY_CURRENT_USER, "Software\\Quorin Tests"),
               (Names{"Registry", ""}));
+}
+
+// The Run value: the quoted path with the switch, written once however often it is turned on.
+TEST_F(RegistryTest, SignInStartComesAndGoesAsTheQuotedPathWithTheSwitch) {
+    const std::string runKey = std::string(kKey) + "\\Run";
+    SignInStart run(SignInStart::Command("C:\\Users\\me\\Programs\\Quorin\\quorin.exe"), runKey);
+    const auto stored = [&] { return Read(runKey, "Quorin", HKEY_CURRENT_USER); };
+    EXPECT_EQ(run.CommandText(), "\"C:\\Users\\me\\Programs\\Quorin\\quorin.exe\" /tray");
+    EXPECT_FALSE(run.IsOn()) << "the key does not even exist yet";
+    run.TurnOff();
+    EXPECT_TRUE(stored().IsEmpty());
+    for (int i = 0; i < 2; ++i) {
+        run.TurnOn();
+        EXPECT_TRUE(run.IsOn());
+        EXPECT_EQ(stored(), RegistryValue(run.CommandText()));
+    }
+    run.TurnOff();
+    EXPECT_FALSE(run.IsOn());
+    EXPECT_TRUE(stored().IsEmpty());
+    for (const auto& [argument, signIn] : {std::pair{"/tray", true},
+                                           {"  /TRAY ", true},
+                                           {"", false},
+                                           {"/trayx", false},
+                                           {"tray", false}}) {
+        EXPECT_EQ(IsSignInStart(argument), signIn) << argument;
+    }
 }
 
 }  // namespace
