@@ -11,11 +11,7 @@ namespace {
 
 // Each day known, and every seventh second of it both ways.
 TEST(OleDate, MatchesKnownDaysAndRoundTripsTheirSeconds) {
-    struct Case {
-        double oleDate;
-        CivilTime time;
-    };
-    const std::vector<Case> cases = {
+    const std::vector<std::pair<double, CivilTime>> cases = {
         {0.0, {1899, 12, 30, 0, 0, 0}},
         {1.5, {1899, 12, 31, 12, 0, 0}},
         {2.0, {1900, 1, 1, 0, 0, 0}},
@@ -29,15 +25,15 @@ TEST(OleDate, MatchesKnownDaysAndRoundTripsTheirSeconds) {
         {45351.75, {2024, 2, 29, 18, 0, 0}},
         {2958465.0 + 86399.0 / 86400.0, {9999, 12, 31, 23, 59, 59}},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(FromOleDate(c.oleDate), c.time) << c.oleDate;
-        EXPECT_NEAR(ToOleDate(c.time), c.oleDate, 1e-9) << c.oleDate;
-        EXPECT_EQ(ParseIndexDate(FormatIndexDate(c.oleDate)), c.oleDate) << c.oleDate;
+    for (const auto& [oleDate, time] : cases) {
+        EXPECT_EQ(FromOleDate(oleDate), time) << oleDate;
+        EXPECT_NEAR(ToOleDate(time), oleDate, 1e-9) << oleDate;
+        EXPECT_EQ(ParseIndexDate(FormatIndexDate(oleDate)), oleDate) << oleDate;
         // The seconds of the first day of year 100 lie below the least date the program takes.
-        for (int second = 0; c.oleDate > -657434.0 && second < 86400; second += 7) {
-            const CivilTime time{c.time.year,   c.time.month,     c.time.day,
-                                 second / 3600, second / 60 % 60, second % 60};
-            ASSERT_EQ(FromOleDate(ToOleDate(time)), time) << FormatIndexDate(ToOleDate(time));
+        for (int second = 0; oleDate > -657434.0 && second < 86400; second += 7) {
+            const CivilTime moment{time.year,     time.month,       time.day,
+                                   second / 3600, second / 60 % 60, second % 60};
+            ASSERT_EQ(FromOleDate(ToOleDate(moment)), moment) << FormatIndexDate(ToOleDate(moment));
         }
     }
 }

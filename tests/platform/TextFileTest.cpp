@@ -46,11 +46,7 @@ size_t FileCount(const std::string& folder) {
 }
 
 TEST(TextFileReader, SplitsAtEveryKindOfLineEndAndDecodesEachLine) {
-    struct Case {
-        std::string content;
-        std::vector<std::string> lines;
-    };
-    const std::vector<Case> cases = {
+    const std::vector<std::pair<std::string, std::vector<std::string>>> cases = {
         {"", {}},
         {"one\r\ntwo\r\n", {"one", "two"}},
         {"one\ntwo\n", {"one", "two"}},
@@ -68,9 +64,9 @@ TEST(TextFileReader, SplitsAtEveryKindOfLineEndAndDecodesEachLine) {
          {"caf\xC3\xA9", "caf\xC3\xA9", "\xEF\xBB\xBFx"}},
     };
     TempFolder temp;
-    for (const Case& c : cases) {
-        const std::string path = temp.WriteFile("lines.txt", c.content);
-        EXPECT_EQ(ReadLines(path), c.lines) << testing::PrintToString(c.content);
+    for (const auto& [content, lines] : cases) {
+        const std::string path = temp.WriteFile("lines.txt", content);
+        EXPECT_EQ(ReadLines(path), lines) << testing::PrintToString(content);
     }
 }
 
