@@ -46,17 +46,6 @@ class RecordingSearchProgress final : public SearchProgress {
     std::vector<std::string> log;
 };
 
-TEST(IndexItemsTest, FindReportsItsProgressPerHundredRecords) {
-    IndexItems items;
-    for (int i = 0; i < 250; ++i) {
-        items.Add(i % 50 == 7 ? "aXaXa " + std::to_string(i) + ".doc" : "other.txt", i);
-    }
-    RecordingSearchProgress progress;
-    EXPECT_EQ(items.Find("XA", &progress), (std::vector<int32_t>{8, 58, 108, 158, 208}));
-    EXPECT_EQ(progress.log, (std::vector<std::string>{"show 250", "100", "200", "hide"}));
-    EXPECT_THROW(items.Item(251), OutOfRangeError);
-}
-
 // Names are upper-cased in pieces of 8 and 16 bytes that overlap at the end: every length, with
 // and without a byte above 0x7F at the last place, which sends the name down the other path.
 std::vector<std::string> AwkwardNames() {
@@ -78,23 +67,6 @@ std::vector<std::string> AwkwardNames() {
     return names;
 }
 
-TEST(IndexItemsTest, KeepsEveryNameItsCaseItsUpperCaseAndItsFolder) {
-    const std::vector<std::string> names = AwkwardNames();
-    IndexItems items;
-    for (size_t i = 0; i < names.size(); ++i) {
-        items.Add(names[i], static_cast<int32_t>(i * 97 % 5001));
-    }
-    ASSERT_EQ(items.Count(), static_cast<int32_t>(names.size()));
-    for (size_t i = 0; i < names.size(); ++i) {
-        SCOPED_TRACE(names[i].substr(0, 40));
-        const clsItem item = items.Item(static_cast<int32_t>(i + 1));
-        EXPECT_EQ(item.Filename, names[i]);
-        EXPECT_EQ(item.UCFilename, ToUpper(names[i]));
-        EXPECT_EQ(item.Directory, static_cast<int32_t>(i * 97 % 5001));
-    }
-    EXPECT_THROW(items.Add("x", -1), OutOfRangeError);
-}
-
 std::vector<int32_t> PlainSearch(const IndexItems& items, const std::string& word) {
     std::vector<int32_t> found;
     for (int32_t position = 1; position <= items.Count(); ++position) {
@@ -105,8 +77,11 @@ std::vector<int32_t> PlainSearch(const IndexItems& items, const std::string& wor
     return found;
 }
 
-TEST(IndexItemsTest, FindsEachMatchingRecordOnceAsAPlainSearchOfEachNameDoes) {
+TEST(IndexItemsTest, KeepsEveryNameAndFindsEachMatchingRecordOnceAsAPlainSearchOfEachNameDoes) {
     const std::vector<std::string> names = AwkwardNames();
+    const auto folderOf = [&](int32_t position) {
+        return static_cast<int32_t>(static_cast<size_t>(position - 1) % names.size() * 97 % 5001);
+    };
     IndexItems items;
     // The last two would only match across two names.
     std::vector<std::string> words = {
@@ -114,13 +89,27 @@ TEST(IndexItemsTest, FindsEachMatchingRecordOnceAsAPlainSearchOfEachNameDoes) {
         "A Z", "QZ", "NUL\0INSIDE"s, "ISTANBUL", "XLSR\xC3\x89",         "XLS\nR"};
     for (int round = 0; round < 3; ++round) {  // more than one block of 100 records
         for (const std::string& name : names) {
-            items.Add(name, round);
+            items.Add(name, folderOf(items.Count() + 1));
             words.push_back(ToUpper(name));
         }
     }
+    for (int32_t position = 1; position <= items.Count(); ++position) {
+        const std::string& name = names[static_cast<size_t>(position - 1) % names.size()];
+        SCOPED_TRACE(name.substr(0, 40));
+        const clsItem item = items.Item(position);
+        EXPECT_EQ(item.Filename, name);
+        EXPECT_EQ(item.UCFilename, ToUpper(name));
+        EXPECT_EQ(item.Directory, folderOf(position));
+    }
+    EXPECT_THROW(items.Item(items.Count() + 1), OutOfRangeError);
+    EXPECT_THROW(items.Add("x", -1), OutOfRangeError);
     for (const std::string& word : words) {
         EXPECT_EQ(items.Find(word, nullptr), PlainSearch(items, word)) << word.substr(0, 40);
     }
+    RecordingSearchProgress progress;  // per hundred records
+    EXPECT_EQ(items.Find("XLS", &progress), items.Find("XLS", nullptr));
+    EXPECT_EQ(progress.log, (std::vector<std::string>{"show " + std::to_string(items.Count()),
+                                                      "100", "200", "hide"}));
 }
 
 // A lookup scans all names as one text, 64 bytes at a time, and gives each hit to its record by
@@ -146,26 +135,9 @@ TEST(IndexItemsTest, RandomLookupsAgreeWithThePlainSearch) {
     }
 }
 
-TEST(FolderTableTest, FindIsCaseFreeAmongUsedSlotsAndTheBoundIsFixed) {
-    FolderTable folders;
-    for (const char* path : {"C:", "C:\\WINDOWS", "D:\\Old"}) {
-        folders.Append(path);
-    }
-    EXPECT_EQ(folders.Find("c:\\windows"), 1);
-    folders.Clear();
-    folders.Append("E:");
-    EXPECT_EQ(folders.Find("D:\\Old"), std::nullopt);  // beyond the count
-    EXPECT_EQ(folders.Path(2), "D:\\Old");             // but still held
-    EXPECT_THROW(folders.Path(kFolderSlots), OutOfRangeError);
-    EXPECT_THROW(folders.Path(-1), OutOfRangeError);
-    while (folders.Append("X")) {
-    }
-    EXPECT_EQ(folders.Count(), kFolderSlots);
-}
-
 // Paths are stored as differences from the slot before; a refill after Clear must leave every
-// later slot, in the refilled block and beyond, as it was.
-TEST(FolderTableTest, RefilledSlotsAndTheSlotsAfterThemReadBackAsStored) {
+// later slot, in the refilled block and beyond, as it was. A fixed table stops at its bound.
+TEST(FolderTableTest, RefilledSlotsAndTheSlotsAfterThemReadBackAsStoredAndTheBoundIsFixed) {
     FolderTable folders(true);
     std::vector<std::string> model;
     for (int i = 0; i < 40; ++i) {
@@ -180,8 +152,16 @@ TEST(FolderTableTest, RefilledSlotsAndTheSlotsAfterThemReadBackAsStored) {
     for (size_t slot = 0; slot < model.size(); ++slot) {
         EXPECT_EQ(folders.Path(static_cast<int32_t>(slot)), model[slot]) << slot;
     }
-    EXPECT_EQ(folders.Find("d:/other57"), 19);
+    EXPECT_EQ(folders.Find("d:/other57"), 19);  // case-free
+    EXPECT_EQ(folders.Find(model[30]), std::nullopt) << "held beyond the count, not found";
     EXPECT_EQ(folders.Path(kFolderSlots - 1), "") << "never used";
+    EXPECT_THROW(folders.Path(-1), OutOfRangeError);
+
+    FolderTable fixed;
+    while (fixed.Append("X")) {
+    }
+    EXPECT_EQ(fixed.Count(), kFolderSlots);
+    EXPECT_THROW(fixed.Path(kFolderSlots), OutOfRangeError);
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "index/clsIndex.h"
 #include "platform/MemorySettingsStore.h"
 #include "platform/Path.h"
+#include "support/Fakes.h"
 #include "support/TempFolder.h"
 #include "support/TestClock.h"
 
@@ -18,19 +19,13 @@ namespace quorin {
 
 using Paths = std::vector<std::string>;
 
-// The window, message boxes and event loop of a build, logged in the order the engine uses
-// them; onEvents lets a test act where a window's handlers would run.
-class ScriptedUi final : public BuildProgress, public Prompter, public EventPump {
+// The window and event loop of a build, logged in the order the engine uses them; onEvents lets
+// a test act where a window's handlers would run.
+class ScriptedUi final : public BuildProgress, public EventPump {
   public:
     void BuildStarted() override { log.push_back("begin"); }
     void SetCounter(std::string_view text) override { log.emplace_back(text); }
     void BuildEnded() override { log.push_back("end"); }
-    PromptAnswer Ask(std::string_view title, std::string_view text, PromptButtons buttons,
-                     PromptIcon icon) override {
-        prompts.push_back(std::string(title) + "|" + std::string(text));
-        okInformation = buttons == PromptButtons::Ok && icon == PromptIcon::Information;
-        return PromptAnswer::Ok;
-    }
     void DoEvents() override {
         log.push_back("events");
         if (onEvents) {
@@ -38,8 +33,6 @@ class ScriptedUi final : public BuildProgress, public Prompter, public EventPump
         }
     }
     Paths log;
-    Paths prompts;
-    bool okInformation = false;
     std::function<void()> onEvents;
 };
 
@@ -58,7 +51,7 @@ class EngineFixture : public ::testing::Test {
 
     std::unique_ptr<clsIndex> MakeIndex(const std::string& programFolder = {}) {
         return std::make_unique<clsIndex>(IndexServices{
-            settings, clock, ui, ui, programFolder.empty() ? program.Path() : programFolder});
+            settings, clock, prompter, ui, programFolder.empty() ? program.Path() : programFolder});
     }
 
     // Full paths of the matches, in index order.
@@ -83,8 +76,9 @@ class EngineFixture : public ::testing::Test {
     TempFolder program;
     TempFolder tree;
     MemorySettingsStore settings;
-    test::TestClock clock;  // moved on so that every build writes a different first line
+    test::TestClock clock;
     ScriptedUi ui;
+    test::ScriptedPrompter prompter;
 };
 
 }  // namespace quorin

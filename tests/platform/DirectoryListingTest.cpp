@@ -32,11 +32,13 @@ Entries List(const std::string& folder, bool includeSystem, FolderLister* lister
     return entries;
 }
 
-TEST(ListFolder, ReportsFilesAndFoldersNoHiddenOnesAndSystemOnesOnlyWhenAsked) {
+TEST(ListFolder, ReportsFilesAndFoldersNoHiddenOnesAndSystemOnesOnlyWhenAskedAsTheListerDoes) {
     TempFolder temp;
     temp.WriteFile("report.doc", "x");
     temp.WriteFile("caf\xC3\xA9 menu.txt", "x");
-    temp.MakeFolder("Sub/Deeper");
+    for (const char* folder : {"Sub/Deeper", "Sub/Second", "Other/Third"}) {
+        temp.MakeFolder(folder);
+    }
 #ifdef _WIN32
     ASSERT_TRUE(MarkHidden(temp.WriteFile("hidden.txt", "x")));
     ASSERT_TRUE(MarkHidden(temp.MakeFolder("Hidden")));
@@ -49,23 +51,20 @@ TEST(ListFolder, ReportsFilesAndFoldersNoHiddenOnesAndSystemOnesOnlyWhenAsked) {
     const std::string systemFile = temp.WriteFile("system.sys", "x");
     const std::string systemFolder = temp.MakeFolder("Sys");
     const bool system = MarkSystem(systemFile) && MarkSystem(systemFolder);
-    all.insert({{"report.doc", false}, {"caf\xC3\xA9 menu.txt", false}, {"Sub", true}});
+    all.insert(
+        {{"report.doc", false}, {"caf\xC3\xA9 menu.txt", false}, {"Sub", true}, {"Other", true}});
     const Entries plain = all;
     all.insert({{"system.sys", false}, {"Sys", true}});
     EXPECT_EQ(List(temp.Path(), false), system ? plain : all);
     EXPECT_EQ(List(temp.Path(), true), all);
     EXPECT_EQ(List(JoinPath(temp.Path(), "absent"), true), Entries{});
     EXPECT_EQ(List(JoinPath(temp.Path(), "report.doc"), true), Entries{});
-}
 
-// A walk's order: siblings, a cousin, a folder back under an earlier parent, a missing one.
-TEST(FolderLister, ListsEachFolderAsListFolderDoes) {
-    TempFolder temp;
-    for (const char* file : {"A/One/1.txt", "A/Two/2.txt", "B/Three/3.txt", "top.txt"}) {
-        temp.WriteFile(file, "x");
-    }
+    // The lister a walk uses, in a walk's order: siblings, a cousin, a folder back under an
+    // earlier parent, a missing one.
     FolderLister lister;
-    for (const char* relative : {"", "A", "B", "A/One", "A/Two", "B/Three", "A/One", "A/Gone"}) {
+    for (const char* relative : {"", "Sub", "Other", "Sub/Deeper", "Sub/Second", "Other/Third",
+                                 "Sub/Deeper", "Sub/Gone"}) {
         const std::string folder = *relative ? JoinPath(temp.Path(), relative) : temp.Path();
         EXPECT_EQ(List(folder, false, &lister), List(folder, false)) << relative;
     }

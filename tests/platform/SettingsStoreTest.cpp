@@ -61,7 +61,7 @@ TEST(IniSettingsStore, ReadsSectionsKeysAndValuesAsWritten) {
     }
 }
 
-TEST(IniSettingsStore, SavesEveryValueItCanWriteAsALineAndReadsThemBack) {
+TEST(IniSettingsStore, SavesEveryValueItCanWriteAsALine) {
     TempFolder temp;
     const std::string path = JoinPath(JoinPath(temp.Path(), "new folder"), "settings.ini");
     {
@@ -74,9 +74,6 @@ TEST(IniSettingsStore, SavesEveryValueItCanWriteAsALineAndReadsThemBack) {
     }
     EXPECT_EQ(ReadWholeFile(path),
               "[Index]\r\nDrive0=C:\r\nFilter=.TXT \r\n\r\n[Main]\r\nLeft=1200\r\n");
-    const IniSettingsStore reread(path);
-    EXPECT_EQ(reread.Get("Index", "Filter", ""), ".TXT ");
-    EXPECT_EQ(reread.Get("Main", "Left", ""), "1200");
 
     IniSettingsStore refusing(JoinPath(temp.Path(), "refused.ini"));
     for (const auto& [section, key, value] : {std::tuple{"Main", "a=b", "1"},
@@ -92,17 +89,14 @@ TEST(IniSettingsStore, SavesEveryValueItCanWriteAsALineAndReadsThemBack) {
 
 TEST(IniSettingsStore, AMalformedLineOrAnUnreadableFileFailsNamingIt) {
     TempFolder temp;
-    const std::string noSection = temp.WriteFile("a.ini", "; comment\r\nkey=value\r\n");
-    EXPECT_EQ(ErrorOf(noSection), "Line 2 of the settings file \"" + noSection +
-                                      "\" is neither a [section] header nor a key=value line.");
-    for (const auto& [content, line] : {std::pair{"[Main]\r\nok=1\r\n\r\njust text\r\n", 4},
+    for (const auto& [content, line] : {std::pair{"; comment\r\nkey=value\r\n", 2},
+                                        {"[Main]\r\nok=1\r\n\r\njust text\r\n", 4},
                                         {"[Main]\r\n=value\r\n", 2},
                                         {"[Main\r\n", 1}}) {
-        const std::string path = temp.WriteFile("b.ini", content);
-        EXPECT_NE(ErrorOf(path).find("Line " + std::to_string(line) + " of the settings file \"" +
-                                     path + "\""),
-                  std::string::npos)
-            << content;
+        const std::string path = temp.WriteFile("bad.ini", content);
+        EXPECT_EQ(ErrorOf(path), "Line " + std::to_string(line) + " of the settings file \"" +
+                                     path +
+                                     "\" is neither a [section] header nor a key=value line.");
     }
 
     const std::string locked = temp.WriteFile("locked.ini", "[Main]\r\n");

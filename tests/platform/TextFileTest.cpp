@@ -20,11 +20,14 @@
 
 #include <filesystem>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <vector>
 
 namespace quorin {
 namespace {
+
+using namespace std::string_literals;
 
 std::vector<std::string> ReadLines(const std::string& path) {
     TextFileReader reader(path);
@@ -38,19 +41,12 @@ std::vector<std::string> ReadLines(const std::string& path) {
 }
 
 size_t FileCount(const std::string& folder) {
-    size_t count = 0;
-    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(FsPath(folder))) {
-        ++count;
-    }
-    return count;
+    return static_cast<size_t>(
+        std::distance(std::filesystem::directory_iterator(FsPath(folder)), {}));
 }
 
 TEST(TextFileReader, SplitsAtEveryKindOfLineEndAndDecodesEachLine) {
-    struct Case {
-        std::string content;
-        std::vector<std::string> lines;
-    };
-    const std::vector<Case> cases = {
+    const std::vector<std::pair<std::string, std::vector<std::string>>> cases = {
         {"", {}},
         {"one\r\ntwo\r\n", {"one", "two"}},
         {"one\ntwo\n", {"one", "two"}},
@@ -68,9 +64,9 @@ TEST(TextFileReader, SplitsAtEveryKindOfLineEndAndDecodesEachLine) {
          {"caf\xC3\xA9", "caf\xC3\xA9", "\xEF\xBB\xBFx"}},
     };
     TempFolder temp;
-    for (const Case& c : cases) {
-        const std::string path = temp.WriteFile("lines.txt", c.content);
-        EXPECT_EQ(ReadLines(path), c.lines) << testing::PrintToString(c.content);
+    for (const auto& [content, lines] : cases) {
+        const std::string path = temp.WriteFile("lines.txt", content);
+        EXPECT_EQ(ReadLines(path), lines) << testing::PrintToString(content);
     }
 }
 
@@ -102,18 +98,6 @@ TEST(TextFileReader, LinesSurviveTheReadersPieces) {
     }
 }
 
-TEST(ReplaceFileWhole, CreatesAndReplacesTheWholeFile) {
-    TempFolder temp;
-    const std::string path = JoinPath(temp.Path(), "index.txt");
-    for (const std::string& content :
-         {std::string("first version, rather long\r\n"), std::string("second\r\n"), std::string(),
-          std::string(3 * 1024 * 1024 + 7, 'x')}) {
-        ReplaceFileWhole(path, content);
-        EXPECT_TRUE(ReadWholeFile(path) == content) << content.size() << " bytes";
-    }
-    EXPECT_EQ(FileCount(temp.Path()), 1u) << "a temporary file was left behind";
-}
-
 std::string ErrorOf(const std::function<void()>& action) {
     try {
         action();
@@ -125,8 +109,16 @@ std::string ErrorOf(const std::function<void()>& action) {
 
 // Each failure names the file in a sentence with the system's reason, leaves what was there and
 // no temporary file.
-TEST(ReplaceFileWhole, AFailedReadOrSaveNamesTheFileAndLeavesWhatWasThere) {
+TEST(ReplaceFileWhole, ReplacesTheWholeFileAndAFailedReadOrSaveNamesTheFileAndLeavesWhatWasThere) {
     TempFolder temp;
+    const std::string index = JoinPath(temp.Path(), "index.txt");
+    for (const std::string& content : {"first version, rather long\r\n"s, "second\r\n"s, ""s,
+                                       std::string(3 * 1024 * 1024 + 7, 'x')}) {
+        ReplaceFileWhole(index, content);
+        EXPECT_TRUE(ReadWholeFile(index) == content) << content.size() << " bytes";
+    }
+    EXPECT_EQ(FileCount(temp.Path()), 1u) << "a temporary file was left behind";
+    std::filesystem::remove(FsPath(index));
     const std::string missing = JoinPath(JoinPath(temp.Path(), "missing"), "index.txt");
     for (const std::string& message : {ErrorOf([&] { TextFileReader reader(missing); }),
                                        ErrorOf([&] { ReplaceFileWhole(missing, "data"); })}) {

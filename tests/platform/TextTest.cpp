@@ -70,19 +70,18 @@ TEST(AnsiToUtf8, DecodesALatin1LineThatIsNotUtf8) {
 #endif
 }
 
+// ß has no one-character upper case: it stays, and the rest still changes.
 TEST(ToUpper, MapsAsciiAndOtherLettersCharacterByCharacter) {
-    EXPECT_EQ(ToUpper("readme.txt"), "README.TXT");
-    EXPECT_EQ(ToUpper("a-z [{`~} 09 @"), "A-Z [{`~} 09 @");
-    EXPECT_EQ(ToUpper("\xC3\xA9"), "\xC3\x89");  // é
-    EXPECT_EQ(ToUpper("My r\xC3\xA9sum\xC3\xA9.Doc"), "MY R\xC3\x89SUM\xC3\x89.DOC");
-    EXPECT_EQ(ToUpper("\xCF\x89\xD0\xB6"), "\xCE\xA9\xD0\x96");  // ωж
-    // ß has no one-character upper case: it stays, and the rest still changes.
-    EXPECT_EQ(ToUpper("stra\xC3\x9F"
-                      "e"),
-              "STRA\xC3\x9F"
-              "E");
-    EXPECT_EQ(ToUpper("\xF0\x9F\x98\x80x"), "\xF0\x9F\x98\x80X");
-    EXPECT_EQ(ToUpper(""), "");
+    for (const auto& [text, upper] :
+         {std::pair{"readme.txt", "README.TXT"},
+          {"a-z [{`~} 09 @", "A-Z [{`~} 09 @"},
+          {"My r\xC3\xA9sum\xC3\xA9.Doc", "MY R\xC3\x89SUM\xC3\x89.DOC"},
+          {"\xCF\x89\xD0\xB6", "\xCE\xA9\xD0\x96"},  // ωж
+          {"straße", "STRAßE"},
+          {"\xF0\x9F\x98\x80x", "\xF0\x9F\x98\x80X"},
+          {"", ""}}) {
+        EXPECT_EQ(ToUpper(text), upper) << text;
+    }
 }
 
 }  // namespace

@@ -2,7 +2,10 @@
 
 #include "platform/Text.h"
 
+#include <sddl.h>
+
 #include <algorithm>
+#include <memory>
 #include <stdexcept>
 
 namespace quorin {
@@ -10,18 +13,18 @@ namespace {
 
 constexpr wchar_t kUserClasses[] = L"Software\\Classes\\";
 
-bool CreatedAndClosed(HKEY root, const std::wstring& name) {
+// Null when the key cannot be created.
+UniqueKey CreatedKey(HKEY root, const std::wstring& name) {
     HKEY key = nullptr;
-    const LONG result = RegCreateKeyExW(root, name.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
-                                        KEY_ALL_ACCESS, nullptr, &key, nullptr);
-    const UniqueKey closer(result == ERROR_SUCCESS ? key : nullptr);
-    return result == ERROR_SUCCESS;
+    const bool created = RegCreateKeyExW(root, name.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
+                                         KEY_ALL_ACCESS, nullptr, &key, nullptr) == ERROR_SUCCESS;
+    return UniqueKey(created ? key : nullptr);
 }
 
 bool ClassesRootShowsUserClasses() {
     static const bool shows = [] {
         const std::wstring probe = L".quorin-merge-probe";
-        if (!CreatedAndClosed(HKEY_CURRENT_USER, kUserClasses + probe)) {
+        if (!CreatedKey(HKEY_CURRENT_USER, kUserClasses + probe)) {
             return false;
         }
         HKEY key = nullptr;
@@ -34,25 +37,20 @@ bool ClassesRootShowsUserClasses() {
     return shows;
 }
 
-// Everyone gets `access` and nothing more. Failures show in the tests, which check the access
-// they meant to set.
-void SetAccess(HKEY root, const std::wstring& name, REGSAM access) {
+// Everyone gets `rights` ("KR" to read, "KA" for all) and nothing more. Failures show in the
+// tests, which check the access they meant to set.
+void SetAccess(HKEY root, const std::wstring& name, const std::wstring& rights) {
     HKEY key = nullptr;
     if (RegOpenKeyExW(root, name.c_str(), 0, WRITE_DAC, &key) != ERROR_SUCCESS) {
         return;
     }
     const UniqueKey closer(key);
-    BYTE everyone[SECURITY_MAX_SID_SIZE];
-    DWORD sidSize = sizeof everyone;
-    CreateWellKnownSid(WinWorldSid, nullptr, everyone, &sidSize);
-    alignas(DWORD) BYTE aclBuffer[256];
-    auto* acl = reinterpret_cast<ACL*>(aclBuffer);
-    InitializeAcl(acl, sizeof aclBuffer, ACL_REVISION);
-    AddAccessAllowedAce(acl, ACL_REVISION, access, everyone);
-    SECURITY_DESCRIPTOR descriptor;
-    InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION);
-    SetSecurityDescriptorDacl(&descriptor, TRUE, acl, FALSE);
-    RegSetKeySecurity(key, DACL_SECURITY_INFORMATION, &descriptor);
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    if (ConvertStringSecurityDescriptorToSecurityDescriptorW(
+            (L"D:(A;;" + rights + L";;;WD)").c_str(), SDDL_REVISION_1, &descriptor, nullptr)) {
+        const std::unique_ptr<void, HLOCAL (*)(HLOCAL)> freer(descriptor, LocalFree);
+        RegSetKeySecurity(key, DACL_SECURITY_INFORMATION, descriptor);
+    }
 }
 
 }  // namespace
@@ -63,7 +61,7 @@ ScratchClasses::ScratchClasses()
 
 ScratchClasses::~ScratchClasses() {
     for (const std::string& key : readOnlyKeys_) {
-        SetAccess(root_, FullName(key), KEY_ALL_ACCESS);
+        SetAccess(root_, FullName(key), L"KA");
     }
     for (const std::string& key : topKeys_) {
         RegDeleteTreeW(root_, FullName(key).c_str());
@@ -98,7 +96,7 @@ void ScratchClasses::RegisterType(const std::string& ext, const std::string& fil
 }
 
 void ScratchClasses::MakeReadOnly(const std::string& key) {
-    SetAccess(root_, FullName(key), KEY_READ);
+    SetAccess(root_, FullName(key), L"KR");
     readOnlyKeys_.push_back(key);
 }
 
@@ -107,12 +105,11 @@ UniqueKey ScratchClasses::Create(const std::string& key) {
     if (std::find(topKeys_.begin(), topKeys_.end(), top) == topKeys_.end()) {
         topKeys_.push_back(top);
     }
-    HKEY created = nullptr;
-    if (RegCreateKeyExW(root_, FullName(key).c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
-                        KEY_ALL_ACCESS, nullptr, &created, nullptr) != ERROR_SUCCESS) {
+    UniqueKey created = CreatedKey(root_, FullName(key));
+    if (!created) {
         throw std::runtime_error("cannot create the scratch key " + key);
     }
-    return UniqueKey(created);
+    return created;
 }
 
 std::wstring ScratchClasses::FullName(const std::string& key) const {
