@@ -7,7 +7,6 @@
 # while words.txt stays.
 # Usage: package.sh WIN_BUILD_TREE WORK_FOLDER [SCREENSHOT_FOLDER]
 # Needs wixl.
-set -euo pipefail
 build_tree=$1
 exe_folder=$build_tree/src/app
 . "$(dirname "$0")/lib.sh"
@@ -42,7 +41,7 @@ run_msiexec() {
     [ "$status" -eq 0 ] || fail "msiexec $* failed"
 }
 
-run_value() { wine reg query "$run_key" /v Quorin 2>/dev/null | tr -d '\r' | sed -n 's/^ *Quorin *REG_SZ *//p'; }
+run_value() { reg_value "$run_key" Quorin; }
 arp_lists() { [ "$(arp_value "$1" DisplayVersion)" = "$1" ]; }
 # A value of the package's entry among the installed programs; empty when there is none.
 arp_value() {
@@ -80,15 +79,10 @@ index_root 'C:\e2e-tree' '' False
 wineserver -w
 
 start_program "$target"
-wait_until 60 "no wizard at the first start" window_shown '^Welcome to Quorin$'
-# "Next >" three times, then Finish, where the wizard's navigation links stand.
-for _ in 1 2 3; do click_and_wait 765 551 532x352+373+224; done
-xdotool mousemove 765 551 click 1
+wait_until 60 "no wizard at the first start" wizard_shown
+walk_wizard
 wait_for_index
-
-main_shown() { window_shown '^Quorin$'; }
-main_hidden() { ! main_shown; }
-wait_until 30 "the wizard stayed after the first build" bash -c "! xdotool search --onlyvisible --name '^Welcome to Quorin\$' >/dev/null"
+wait_until 30 "the wizard stayed after the first build" window_gone '^Welcome to Quorin$'
 # From the tray, a press brings up the main window and the next one puts it away.
 for _ in 1 2 3; do
     xdotool key alt+space
@@ -96,14 +90,13 @@ for _ in 1 2 3; do
 done
 main_shown || fail "Alt+Space did not bring up the main window"
 xdotool key alt+space
-wait_until 10 "Alt+Space did not put the main window away" main_hidden
+wait_until 10 "Alt+Space did not put the main window away" window_gone '^Quorin$'
 xdotool key alt+space
 wait_until 10 "Alt+Space did not bring up the main window again" main_shown
 # Typed straight away, the word lands in the word box, completed from the user's words.
 xdotool type --delay 150 no
 sleep 1
-shot hotkey-summoned
-convert "$shots/hotkey-summoned.png" -crop 420x160+430+320 +repage "$shots/hotkey-summoned.png"
+shot hotkey-summoned 420x160+430+320
 exit_program
 
 cp "$program/index.txt" "$work/index.before"
