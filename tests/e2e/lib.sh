@@ -18,7 +18,7 @@ program=$work/program
 # A failure leaves the screen as it was in failure.png and names the windows then shown.
 fail() {
     echo "FAIL: $*" >&2
-    import -display "$DISPLAY" -window root "$shots/failure.png" 2>/dev/null || true
+    shot failure 2>/dev/null || true
     echo "windows shown:" >&2
     xdotool search --onlyvisible --name . getwindowname %@ >&2 2>/dev/null || true
     exit 1
@@ -131,23 +131,16 @@ start_program() {  # [EXE [ARGS]]
     xdotool mousemove 640 200
 }
 
-# Polls the command after $1 (seconds) until it succeeds; fails (returns 1) when time runs out.
-poll() {
-    local seconds=$1
-    shift
-    for _ in $(seq "$((seconds * 4))"); do
-        "$@" && return 0
+# Polls COMMAND until it succeeds; returns 1 when SECONDS have run out.
+poll() {  # SECONDS COMMAND...
+    for _ in $(seq "$(($1 * 4))"); do
+        "${@:2}" && return 0
         sleep 0.25
     done
     return 1
 }
-
-# Waits up to $1 seconds for the command after it to succeed; fails with $2 otherwise.
-wait_until() {
-    local seconds=$1 what=$2
-    shift 2
-    poll "$seconds" "$@" || fail "$what"
-}
+# The same, failing with WHAT when time runs out.
+wait_until() { poll "$1" "${@:3}" || fail "$2"; }  # SECONDS WHAT COMMAND...
 
 window_shown() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
 window_gone() { ! window_shown "$1"; }
@@ -159,6 +152,15 @@ has_focus() {
     local id
     id=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -1)
     [ -n "$id" ] && [ "$(xdotool getwindowfocus 2>/dev/null)" = "$id" ]
+}
+# Waits for the dialog titled $1 to have the focus. Under load Wine can show a dialog without
+# making it active: it is given the focus then.
+take_focus() {
+    for _ in 1 2 3; do
+        poll 5 has_focus "$1" && return 0
+        xdotool windowfocus "$(xdotool search --onlyvisible --name "$1" | head -1)" 2>/dev/null || true
+    done
+    fail "the window $1 did not take the focus"
 }
 
 # The main window's word box: the colour inside it, and the dark pixels of its first 100 (a caret
@@ -192,6 +194,12 @@ type_word() {  # WORD
     fail "the word \"$1\" did not arrive in the word box"
 }
 
+# The word in the word box, then Go through Enter.
+go() {  # WORD
+    type_word "$1"
+    xdotool key Return
+}
+
 # The "Missing index" question of a start without an index.
 question_shown() { window_shown '^Missing index$'; }
 wait_for_question() { wait_until 60 "no \"Missing index\" question at start" question_shown; }
@@ -200,13 +208,9 @@ wait_for_question() { wait_until 60 "no \"Missing index\" question at start" que
 # rather than Return pressed: under load Wine can leave the box inactive, where keys do not reach
 # it but clicks do.
 answer_missing_index() {
-    local _ __
     for _ in $(seq 5); do
         xdotool mousemove 606 432 click 1
-        for __ in $(seq 12); do
-            sleep 0.25
-            question_shown || return 0
-        done
+        poll 3 window_gone '^Missing index$' && return 0
     done
     fail "\"Missing index\" did not take a click on Yes"
 }

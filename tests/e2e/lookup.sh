@@ -23,11 +23,6 @@ register_marking_type .qzo QuorinLookupTest
 wine reg add 'HKCR\QuorinLookupTest\DefaultIcon' /ve /d '%SystemRoot%\system32\notepad.exe,0' \
     /f >/dev/null
 
-# The word in the main window's word box, then Go through Enter.
-go() {
-    type_word "$1"
-    xdotool key Return
-}
 matches_shown() { window_shown '^Multiple Matches$'; }
 
 start_and_index

@@ -29,12 +29,7 @@ open_options() {  # LINK_Y
         poll 10 options_shown && break
     done
     options_shown || fail "the Options link at $1 opened no dialog"
-    # Under load Wine can show the dialog without making it active: give it the focus then.
-    for _ in 1 2 3; do
-        poll 5 has_focus '^Options$' && return 0
-        xdotool windowfocus "$(xdotool search --onlyvisible --name '^Options$' | head -1)" 2>/dev/null || true
-    done
-    fail "the Options dialog did not take the focus"
+    take_focus '^Options$'
 }
 
 start_and_index
@@ -64,15 +59,14 @@ xdotool mousemove 480 429 click 1
 wait_until 60 "Update Index Now built no new index" \
     bash -c "! cmp -s '$program/index.txt' '$program/index.txt.old' && grep -q 'report.qzp' '$program/index.txt'"
 click_and_wait 472 373 "$main_area"
-type_word report
-xdotool key Return
+go report
 wait_until 20 "Go on report did not open report.qzp" opened 'report.qzp'
 
 # Words: Add New Word from the Words page (Alt+N), then Cancel the Options dialog.
 open_options 429
 xdotool key alt+n
 wait_until 20 "Add New Word did not open" window_shown '^Add New Word$'
-wait_until 10 "Add New Word did not take the focus" has_focus '^Add New Word$'
+take_focus '^Add New Word$'
 xdotool type --delay 50 plan
 xdotool key Tab
 xdotool type --delay 20 "$(windows_path "$tree")\\notes.txt"

@@ -58,7 +58,8 @@ program=$(echo "$WINEPREFIX"/drive_c/users/*/AppData/Local/Programs/Quorin)
 user=$(basename "$(dirname "$(dirname "$(dirname "$(dirname "$program")")")")")
 target="C:\\users\\$user\\AppData\\Local\\Programs\\Quorin\\quorin.exe"
 shortcut="$WINEPREFIX/drive_c/users/$user/AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Quorin.lnk"
-for file in quorin.exe findfile.avi qn.HLP README.txt LICENSE.txt; do
+files=(quorin.exe findfile.avi qn.HLP README.txt LICENSE.txt)
+for file in "${files[@]}"; do
     [ -f "$program/$file" ] || fail "$file was not installed in $program"
 done
 [ -f "$shortcut" ] || fail "no Start-menu shortcut"
@@ -83,12 +84,17 @@ wait_until 60 "no wizard at the first start" wizard_shown
 walk_wizard
 wait_for_index
 wait_until 30 "the wizard stayed after the first build" window_gone '^Welcome to Quorin$'
+# Alt+Space until the main window comes up: the window is made before the hotkey is taken, so a
+# press that comes too early is pressed again.
+summon() {  # WHAT
+    for _ in 1 2 3 4 5; do
+        xdotool key alt+space
+        poll 4 main_shown && return 0
+    done
+    fail "$1"
+}
 # From the tray, a press brings up the main window and the next one puts it away.
-for _ in 1 2 3; do
-    xdotool key alt+space
-    poll 5 main_shown && break
-done
-main_shown || fail "Alt+Space did not bring up the main window"
+summon "Alt+Space did not bring up the main window"
 xdotool key alt+space
 wait_until 10 "Alt+Space did not put the main window away" window_gone '^Quorin$'
 xdotool key alt+space
@@ -114,17 +120,12 @@ wait_until 20 "the installed programs list no 1.0.1" arp_lists 1.0.1
 quorin_window() { xdotool search --name '^Quorin$' >/dev/null 2>&1; }
 start_program "$target" /tray
 wait_until 30 "the start at sign-in made no window" quorin_window
-# The window is made before the hotkey is taken: a press that comes too early is pressed again.
-for _ in 1 2 3 4 5; do
-    xdotool key alt+space
-    poll 4 main_shown && break
-done
-main_shown || fail "Alt+Space did not bring up the program started at sign-in"
+summon "Alt+Space did not bring up the program started at sign-in"
 exit_program
 
 # As the installed-programs list does it: by the product code.
 run_msiexec /x "$(product_code 1.0.1)"
-for file in quorin.exe findfile.avi qn.HLP README.txt LICENSE.txt; do
+for file in "${files[@]}"; do
     [ ! -e "$program/$file" ] || fail "$file is left after the uninstall"
 done
 cmp -s "$program/words.txt" "$work/words.before" || fail "the uninstall did not leave words.txt"
