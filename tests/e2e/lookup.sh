@@ -4,8 +4,6 @@
 # is opened with "Always associate this word with this item" checked, and the same word typed
 # again opens that file at once. Files open through a file type registered in the prefix whose
 # "open" command writes the opened path to a marker file.
-# Usage: lookup.sh EXE_FOLDER WORK_FOLDER [SCREENSHOT_FOLDER]
-set -euo pipefail
 . "$(dirname "$0")/lib.sh"
 prepare_program
 
@@ -24,21 +22,10 @@ done
 register_marking_type .qzo QuorinLookupTest
 wine reg add 'HKCR\QuorinLookupTest\DefaultIcon' /ve /d '%SystemRoot%\system32\notepad.exe,0' \
     /f >/dev/null
-wineserver -w
 
-# The word in the main window's word box, then Go through Enter.
-go() {
-    type_word "$1"
-    xdotool key Return
-}
 matches_shown() { window_shown '^Multiple Matches$'; }
-matches_gone() { ! matches_shown; }
-main_hidden() { ! window_shown '^Quorin$'; }
 
-start_program
-wait_for_question
-answer_missing_index
-wait_for_index
+start_and_index
 grep -q 'alpha report.qzo' "$program/index.txt" || fail "index.txt misses alpha report.qzo"
 ! grep -q 'alpha draft.txt' "$program/index.txt" || fail "the filter let alpha draft.txt in"
 # Matches come in index order, so the first row is the first of the two in index.txt.
@@ -49,35 +36,35 @@ go beta
 wait_until 20 "one match did not open beta plan.qzo" opened 'beta plan.qzo'
 sleep 1.5
 ! matches_shown || fail "one match showed the Matches window"
-window_shown '^Quorin$' || fail "the main window went away after one match"
-shot main-after-go
-crop_main main-after-go
+main_shown || fail "the main window went away after one match"
+shot main-after-go "$main_area"
 rm -f "$marker"
 
 go alpha
 wait_until 20 "two matches showed no Matches window" matches_shown
 settled 480x320+100+100
-shot matches-live
-convert "$shots/matches-live.png" -crop 480x320+100+100 +repage "$shots/matches-live.png"
+shot matches-live 480x320+100+100
 [ ! -e "$marker" ] || fail "two matches opened a file without a choice"
-wait_until 10 "the main window stayed up beside the Matches window" main_hidden
+wait_until 10 "the main window stayed up beside the Matches window" window_gone '^Quorin$'
 # "Always associate this word with this item", then Open for the first row, selected on showing.
 click_and_wait 118 397 150x18+108+388
 xdotool mousemove 528 397 click 1
 wait_until 20 "Open did not open $first" opened "$first"
-wait_until 10 "the Matches window stayed after Open" matches_gone
+wait_until 10 "the Matches window stayed after Open" window_gone '^Multiple Matches$'
 tr -d '\r' <"$program/words.txt" >"$work/words.lf"
 grep -qx alpha "$work/words.lf" || fail "words.txt holds no word alpha"
 grep -Fqx "$(windows_path "$tree")\\papers" "$work/words.lf" || fail "words.txt holds no folder of alpha"
 grep -Fqx "$first" "$work/words.lf" || fail "words.txt does not name $first"
 rm -f "$marker"
 
-wait_until 10 "the main window came back when the Matches window opened a file" main_hidden
+wait_until 10 "the main window came back when the Matches window opened a file" \
+    window_gone '^Quorin$'
 xdotool mousemove 1270 790 click 1
-wait_until 10 "a tray click did not bring the main window back" window_shown '^Quorin$'
+wait_until 10 "a tray click did not bring the main window back" main_shown
 go alpha
 wait_until 20 "the assigned word did not open $first" opened "$first"
-wait_until 10 "the main window stayed up after the assigned word opened its file" main_hidden
+wait_until 10 "the main window stayed up after the assigned word opened its file" \
+    window_gone '^Quorin$'
 sleep 1
 ! matches_shown || fail "the assigned word showed the Matches window"
 echo "PASS"

@@ -7,7 +7,6 @@
 # while words.txt stays.
 # Usage: package.sh WIN_BUILD_TREE WORK_FOLDER [SCREENSHOT_FOLDER]
 # Needs wixl.
-set -euo pipefail
 build_tree=$1
 exe_folder=$build_tree/src/app
 . "$(dirname "$0")/lib.sh"
@@ -42,7 +41,7 @@ run_msiexec() {
     [ "$status" -eq 0 ] || fail "msiexec $* failed"
 }
 
-run_value() { wine reg query "$run_key" /v Quorin 2>/dev/null | tr -d '\r' | sed -n 's/^ *Quorin *REG_SZ *//p'; }
+run_value() { reg_value "$run_key" Quorin; }
 arp_lists() { [ "$(arp_value "$1" DisplayVersion)" = "$1" ]; }
 # A value of the package's entry among the installed programs; empty when there is none.
 arp_value() {
@@ -59,7 +58,8 @@ program=$(echo "$WINEPREFIX"/drive_c/users/*/AppData/Local/Programs/Quorin)
 user=$(basename "$(dirname "$(dirname "$(dirname "$(dirname "$program")")")")")
 target="C:\\users\\$user\\AppData\\Local\\Programs\\Quorin\\quorin.exe"
 shortcut="$WINEPREFIX/drive_c/users/$user/AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Quorin.lnk"
-for file in quorin.exe findfile.avi qn.HLP README.txt LICENSE.txt; do
+files=(quorin.exe findfile.avi qn.HLP README.txt LICENSE.txt)
+for file in "${files[@]}"; do
     [ -f "$program/$file" ] || fail "$file was not installed in $program"
 done
 [ -f "$shortcut" ] || fail "no Start-menu shortcut"
@@ -80,30 +80,29 @@ index_root 'C:\e2e-tree' '' False
 wineserver -w
 
 start_program "$target"
-wait_until 60 "no wizard at the first start" window_shown '^Welcome to Quorin$'
-# "Next >" three times, then Finish, where the wizard's navigation links stand.
-for _ in 1 2 3; do click_and_wait 765 551 532x352+373+224; done
-xdotool mousemove 765 551 click 1
+wait_until 60 "no wizard at the first start" wizard_shown
+walk_wizard
 wait_for_index
-
-main_shown() { window_shown '^Quorin$'; }
-main_hidden() { ! main_shown; }
-wait_until 30 "the wizard stayed after the first build" bash -c "! xdotool search --onlyvisible --name '^Welcome to Quorin\$' >/dev/null"
+wait_until 30 "the wizard stayed after the first build" window_gone '^Welcome to Quorin$'
+# Alt+Space until the main window comes up: the window is made before the hotkey is taken, so a
+# press that comes too early is pressed again.
+summon() {  # WHAT
+    for _ in 1 2 3 4 5; do
+        xdotool key alt+space
+        poll 4 main_shown && return 0
+    done
+    fail "$1"
+}
 # From the tray, a press brings up the main window and the next one puts it away.
-for _ in 1 2 3; do
-    xdotool key alt+space
-    poll 5 main_shown && break
-done
-main_shown || fail "Alt+Space did not bring up the main window"
+summon "Alt+Space did not bring up the main window"
 xdotool key alt+space
-wait_until 10 "Alt+Space did not put the main window away" main_hidden
+wait_until 10 "Alt+Space did not put the main window away" window_gone '^Quorin$'
 xdotool key alt+space
 wait_until 10 "Alt+Space did not bring up the main window again" main_shown
 # Typed straight away, the word lands in the word box, completed from the user's words.
 xdotool type --delay 150 no
 sleep 1
-shot hotkey-summoned
-convert "$shots/hotkey-summoned.png" -crop 420x160+430+320 +repage "$shots/hotkey-summoned.png"
+shot hotkey-summoned 420x160+430+320
 exit_program
 
 cp "$program/index.txt" "$work/index.before"
@@ -121,17 +120,12 @@ wait_until 20 "the installed programs list no 1.0.1" arp_lists 1.0.1
 quorin_window() { xdotool search --name '^Quorin$' >/dev/null 2>&1; }
 start_program "$target" /tray
 wait_until 30 "the start at sign-in made no window" quorin_window
-# The window is made before the hotkey is taken: a press that comes too early is pressed again.
-for _ in 1 2 3 4 5; do
-    xdotool key alt+space
-    poll 4 main_shown && break
-done
-main_shown || fail "Alt+Space did not bring up the program started at sign-in"
+summon "Alt+Space did not bring up the program started at sign-in"
 exit_program
 
 # As the installed-programs list does it: by the product code.
 run_msiexec /x "$(product_code 1.0.1)"
-for file in quorin.exe findfile.avi qn.HLP README.txt LICENSE.txt; do
+for file in "${files[@]}"; do
     [ ! -e "$program/$file" ] || fail "$file is left after the uninstall"
 done
 cmp -s "$program/words.txt" "$work/words.before" || fail "the uninstall did not leave words.txt"
