@@ -102,7 +102,7 @@ TEST(LabelModel, MouseSequences) {
     }
 }
 
-// Three tabs, "Go" selected, and a link, on a hidden window.
+// Three tabs, "Go" selected, and two links, on a hidden window.
 class LabelTest : public ::testing::Test {
   protected:
     void SetUp() override { go.SetSelected(true); }
@@ -120,6 +120,7 @@ class LabelTest : public ::testing::Test {
     ctlTabLabel& index = ctlTabLabel::Create(parent.hwnd(), 2, "Index", 60, 0);
     ctlTabLabel& options = ctlTabLabel::Create(parent.hwnd(), 3, "Options", 140, 0);
     ctlLinkLabel& link = ctlLinkLabel::Create(parent.hwnd(), 7, "General Options", 10, 30);
+    ctlLinkLabel& previous = ctlLinkLabel::Create(parent.hwnd(), 4, "< Previous", 0, 60);
     const SIZE indexSize = ClientSize(index.hwnd());
     const int indexInk = Ink(index.hwnd());
     const SIZE linkSize = ClientSize(link.hwnd());
@@ -154,34 +155,30 @@ TEST_F(LabelTest, CaptionColoursOnTheirBackgroundsInEveryStateAndInHighContrast)
         const char* what;
         std::function<void()> act;
         LabelWindow& label;
-        COLORREF background;
-        COLORREF shown;
-        COLORREF absent;
+        COLORREF background, shown, absent;
     };
+    const COLORREF face = GetSysColor(COLOR_BTNFACE), shadow = GetSysColor(COLOR_BTNSHADOW);
+    const COLORREF text = GetSysColor(COLOR_BTNTEXT), light = GetSysColor(COLOR_HIGHLIGHTTEXT);
+    const COLORREF grey = GetSysColor(COLOR_GRAYTEXT), cream = RGB(255, 255, 224);
     const auto none = [] {};
     const Step steps[] = {
-        {"selected tab", none, go, GetSysColor(COLOR_BTNFACE), GetSysColor(COLOR_BTNTEXT),
-         CLR_INVALID},
-        {"tab", none, index, GetSysColor(COLOR_BTNSHADOW), GetSysColor(COLOR_HIGHLIGHTTEXT),
-         CLR_INVALID},
-        {"disabled selected tab", [&] { go.SetEnabled(false); }, go, GetSysColor(COLOR_BTNFACE),
-         GetSysColor(COLOR_GRAYTEXT), GetSysColor(COLOR_BTNTEXT)},
+        {"selected tab", none, go, face, text, CLR_INVALID},
+        {"tab", none, index, shadow, light, CLR_INVALID},
+        {"disabled selected tab", [&] { go.SetEnabled(false); }, go, face, grey, text},
         // Grey text on the shadow could hardly be seen: the light colour is used instead.
-        {"disabled tab", [&] { index.SetEnabled(false); }, index, GetSysColor(COLOR_BTNSHADOW),
-         GetSysColor(COLOR_3DLIGHT), GetSysColor(COLOR_HIGHLIGHTTEXT)},
-        {"tab enabled again", [&] { index.SetEnabled(true); }, index, GetSysColor(COLOR_BTNSHADOW),
-         GetSysColor(COLOR_HIGHLIGHTTEXT), CLR_INVALID},
-        {"link", none, link, GetSysColor(COLOR_BTNFACE), kLinkBlue, CLR_INVALID},
-        {"link on its BackColor", [&] { link.SetBackColor(RGB(255, 255, 224)); }, link,
-         RGB(255, 255, 224), kLinkBlue, CLR_INVALID},
-        {"disabled link", [&] { link.SetEnabled(false); }, link, RGB(255, 255, 224),
-         GetSysColor(COLOR_GRAYTEXT), kLinkBlue},
+        {"disabled tab", [&] { index.SetEnabled(false); }, index, shadow,
+         GetSysColor(COLOR_3DLIGHT), light},
+        {"tab enabled again", [&] { index.SetEnabled(true); }, index, shadow, light, CLR_INVALID},
+        {"link", none, link, face, kLinkBlue, CLR_INVALID},
+        {"link on its BackColor", [&] { link.SetBackColor(cream); }, link, cream, kLinkBlue,
+         CLR_INVALID},
+        {"disabled link", [&] { link.SetEnabled(false); }, link, cream, grey, kLinkBlue},
         {"link in high contrast",
          [&] {
              link.SetEnabled(true);
              OverrideHighContrast(true);
          },
-         link, RGB(255, 255, 224), GetSysColor(COLOR_HOTLIGHT), kLinkBlue},
+         link, cream, GetSysColor(COLOR_HOTLIGHT), kLinkBlue},
     };
     ASSERT_NE(GetSysColor(COLOR_HOTLIGHT), kLinkBlue);
     EXPECT_EQ(link.BackColor(), 0x8000000Fu);
@@ -193,6 +190,18 @@ TEST_F(LabelTest, CaptionColoursOnTheirBackgroundsInEveryStateAndInHighContrast)
         EXPECT_TRUE(step.absent == CLR_INVALID || !Shows(step.label.hwnd(), step.absent));
     }
     OverrideHighContrast(std::nullopt);
+}
+
+// The rightmost column where `after` differs from `before`.
+int RightmostChange(const std::vector<COLORREF>& before, const std::vector<COLORREF>& after,
+                    int width) {
+    int right = -1;
+    for (size_t i = 0; i < after.size(); ++i) {
+        if (after[i] != before[i]) {
+            right = std::max(right, static_cast<int>(i % width));
+        }
+    }
+    return right;
 }
 
 TEST_F(LabelTest, ATabIsAsWideAsItsBoldCaptionAtEachResizeWhereALinkFollowsItsCaption) {
@@ -220,36 +229,21 @@ TEST_F(LabelTest, ATabIsAsWideAsItsBoldCaptionAtEachResizeWhereALinkFollowsItsCa
     EXPECT_GT(ClientSize(index.hwnd()).cy, indexSize.cy) << "a font from the parent is a resize";
 
     link.SetCaption("Change file types that are indexed");
-    EXPECT_GT(ClientSize(link.hwnd()).cx, linkSize.cx);
-    EXPECT_EQ(ClientSize(link.hwnd()).cy, linkSize.cy);
+    const SIZE longer = ClientSize(link.hwnd());
+    EXPECT_GT(longer.cx, linkSize.cx);
+    EXPECT_EQ(longer.cy, linkSize.cy);
+    // The hover underline ends where the caption ends, however long it is.
+    const std::vector<COLORREF> unlit = Render(link.hwnd());
+    const int captionRight =
+        RightmostChange(std::vector<COLORREF>(unlit.size(), unlit[0]), unlit, longer.cx);
+    ASSERT_GT(captionRight, longer.cx / 2);
+    SendMouse(link.hwnd(), WM_MOUSEMOVE, 2, 2);
+    EXPECT_LE(RightmostChange(unlit, Render(link.hwnd()), longer.cx), captionRight + 2);
     link.SetCaption("Help");
     const SIZE shorter = ClientSize(link.hwnd());
     EXPECT_LT(shorter.cx, linkSize.cx);
     MoveWindow(link.hwnd(), 10, 30, 400, 80, TRUE);
     EXPECT_EQ(ClientSize(link.hwnd()).cx, shorter.cx);
-}
-
-// The rightmost column where `after` differs from `before`.
-int RightmostChange(const std::vector<COLORREF>& before, const std::vector<COLORREF>& after,
-                    int width) {
-    int right = -1;
-    for (size_t i = 0; i < after.size(); ++i) {
-        if (after[i] != before[i]) {
-            right = std::max(right, static_cast<int>(i % width));
-        }
-    }
-    return right;
-}
-
-TEST_F(LabelTest, TheLinksUnderlineEndsWhereTheCaptionEnds) {
-    link.SetCaption("Change file types that are indexed");
-    const int width = ClientSize(link.hwnd()).cx;
-    const std::vector<COLORREF> plain = Render(link.hwnd());
-    const std::vector<COLORREF> background(plain.size(), plain[0]);
-    SendMouse(link.hwnd(), WM_MOUSEMOVE, 2, 2);
-    const int captionRight = RightmostChange(background, plain, width);
-    ASSERT_GT(captionRight, width / 2);
-    EXPECT_LE(RightmostChange(plain, Render(link.hwnd()), width), captionRight + 2);
 }
 
 // The hover, press and click rules are LabelModel's; this proves each label follows them with
@@ -307,13 +301,7 @@ TEST_F(LabelTest, TheFocusedLinkShowsAFocusRectangleAndEnterOrSpaceClicksIt) {
     SetFocus(link.hwnd());
     ASSERT_EQ(GetFocus(), link.hwnd());
     EXPECT_GT(Ink(link.hwnd()), linkInk);
-    const MSG enter{link.hwnd(), WM_KEYDOWN, VK_RETURN, 0, 0, {}};
-    const MSG tab{link.hwnd(), WM_KEYDOWN, VK_TAB, 0, 0, {}};
-    EXPECT_EQ(SendMessageW(link.hwnd(), WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&enter)),
-              DLGC_WANTMESSAGE)
-        << "Enter is the link's, not the dialog's default";
-    EXPECT_EQ(SendMessageW(link.hwnd(), WM_GETDLGCODE, VK_TAB, reinterpret_cast<LPARAM>(&tab)), 0);
-
+    // That Enter is the link's and Tab the dialog's, WelcomeTest's keys show in a dialog.
     SendMessageW(link.hwnd(), WM_KEYDOWN, VK_RETURN, 0);
     SendMessageW(link.hwnd(), WM_KEYDOWN, VK_SPACE, 0);
     SendMessageW(link.hwnd(), WM_KEYDOWN, VK_SPACE, 1 << 30);  // held down
@@ -361,35 +349,25 @@ long Number(HRESULT (IAccessible::*get)(VARIANT, VARIANT*), IAccessible& object)
     return number.lVal;
 }
 
-class LabelAccessibleTest : public LabelTest {
-  protected:
-    ctlLinkLabel& previous = ctlLinkLabel::Create(parent.hwnd(), 4, "< Previous", 0, 60);
-};
-
-TEST_F(LabelAccessibleTest, EachLabelTellsItsRoleNameStatesAndDefaultAction) {
+TEST_F(LabelTest, EachLabelTellsItsRoleNameStatesAndDefaultAction) {
     previous.SetEnabled(false);
     SetFocus(index.hwnd());
     ASSERT_EQ(GetFocus(), index.hwnd());
     struct Row {
         LabelWindow& label;
         long role;
-        const char* name;
-        const char* action;
-        long has;
-        long hasNot;
+        const char *name, *action;
+        long has, hasNot;
     };
+    constexpr long kTab = STATE_SYSTEM_SELECTABLE | STATE_SYSTEM_FOCUSABLE;
+    constexpr long kFocused = STATE_SYSTEM_FOCUSED, kSelected = STATE_SYSTEM_SELECTED;
+    constexpr long kOff = STATE_SYSTEM_UNAVAILABLE;
     const Row rows[] = {
-        {go, ROLE_SYSTEM_PAGETAB, "Go", "Switch",
-         STATE_SYSTEM_SELECTED | STATE_SYSTEM_SELECTABLE | STATE_SYSTEM_FOCUSABLE,
-         STATE_SYSTEM_FOCUSED | STATE_SYSTEM_UNAVAILABLE},
-        {index, ROLE_SYSTEM_PAGETAB, "Index", "Switch",
-         STATE_SYSTEM_FOCUSED | STATE_SYSTEM_SELECTABLE | STATE_SYSTEM_FOCUSABLE,
-         STATE_SYSTEM_SELECTED},
+        {go, ROLE_SYSTEM_PAGETAB, "Go", "Switch", kTab | kSelected, kFocused | kOff},
+        {index, ROLE_SYSTEM_PAGETAB, "Index", "Switch", kTab | kFocused, kSelected},
         {link, ROLE_SYSTEM_LINK, "General Options", "Click",
-         STATE_SYSTEM_LINKED | STATE_SYSTEM_FOCUSABLE,
-         STATE_SYSTEM_FOCUSED | STATE_SYSTEM_SELECTED | STATE_SYSTEM_UNAVAILABLE},
-        {previous, ROLE_SYSTEM_LINK, "< Previous", "Click", STATE_SYSTEM_UNAVAILABLE,
-         STATE_SYSTEM_FOCUSED},
+         STATE_SYSTEM_LINKED | STATE_SYSTEM_FOCUSABLE, kFocused | kSelected | kOff},
+        {previous, ROLE_SYSTEM_LINK, "< Previous", "Click", kOff, kFocused},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -405,25 +383,23 @@ TEST_F(LabelAccessibleTest, EachLabelTellsItsRoleNameStatesAndDefaultAction) {
     EXPECT_EQ(Text(&IAccessible::get_accName, *link.Accessible()), "Cancel");
 }
 
-TEST_F(LabelAccessibleTest, WmGetObjectAnswersTheClientAreaThroughLresultFromObject) {
-    for (LabelWindow* label : {static_cast<LabelWindow*>(&go), static_cast<LabelWindow*>(&link)}) {
-        const LRESULT answer = SendMessageW(label->hwnd(), WM_GETOBJECT, 0, OBJID_CLIENT);
-        if (answer > 0) {
-            ComPtr<IAccessible> object;
-            ASSERT_EQ(ObjectFromLresult(answer, IID_IAccessible, 0, &object), S_OK);
-            EXPECT_EQ(Number(&IAccessible::get_accRole, *object.Get()),
-                      Number(&IAccessible::get_accRole, *label->Accessible()));
-        } else {
-            // Wine marshals no IAccessible: LresultFromObject's own failure proves that it was
-            // handed the label's object (the system's default answer is 0).
-            EXPECT_EQ(answer, static_cast<LRESULT>(E_NOINTERFACE));
-        }
-        EXPECT_EQ(SendMessageW(label->hwnd(), WM_GETOBJECT, 0, OBJID_WINDOW), 0)
-            << "the frame stays the system's";
+// Both labels answer through their common base, so the tab stands for both.
+TEST_F(LabelTest, WmGetObjectAnswersTheClientAreaThroughLresultFromObject) {
+    const LRESULT answer = SendMessageW(go.hwnd(), WM_GETOBJECT, 0, OBJID_CLIENT);
+    if (answer > 0) {
+        ComPtr<IAccessible> object;
+        ASSERT_EQ(ObjectFromLresult(answer, IID_IAccessible, 0, &object), S_OK);
+        EXPECT_EQ(Number(&IAccessible::get_accRole, *object.Get()), ROLE_SYSTEM_PAGETAB);
+    } else {
+        // Wine marshals no IAccessible: LresultFromObject's own failure proves that it was
+        // handed the label's object (the system's default answer is 0).
+        EXPECT_EQ(answer, static_cast<LRESULT>(E_NOINTERFACE));
     }
+    EXPECT_EQ(SendMessageW(go.hwnd(), WM_GETOBJECT, 0, OBJID_WINDOW), 0)
+        << "the frame stays the system's";
 }
 
-TEST_F(LabelAccessibleTest, DefaultActionClicksOnceTheCallerHasReturnedAndNotPastTheLabel) {
+TEST_F(LabelTest, DefaultActionClicksOnceTheCallerHasReturnedAndNotPastTheLabel) {
     previous.SetEnabled(false);
     EXPECT_EQ(index.Accessible()->accDoDefaultAction(Self()), S_OK);
     EXPECT_FALSE(index.Selected());
@@ -458,42 +434,25 @@ void CALLBACK RecordWinEvent(HWINEVENTHOOK, DWORD event, HWND window, LONG objec
     }
 }
 
-TEST_F(LabelAccessibleTest, FocusSelectionAndTextChangesRaiseWinEvents) {
+TEST_F(LabelTest, FocusSelectionAndTextChangesRaiseWinEvents) {
     const HWND counter = CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 80, 60, 20, parent.hwnd(),
                                          nullptr, nullptr, nullptr);
     const HWINEVENTHOOK hook =
         SetWinEventHook(EVENT_OBJECT_FOCUS, EVENT_OBJECT_NAMECHANGE, nullptr, &RecordWinEvent,
                         GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
     ASSERT_NE(hook, nullptr);
-    struct Row {
-        const char* what;
-        std::function<void()> act;
-        WinEvent expected;
-    };
-    const Row rows[] = {
-        {"focus on a tab",
-         [&] { SetFocus(index.hwnd()); },
-         {EVENT_OBJECT_FOCUS, index.hwnd(), OBJID_CLIENT}},
-        {"focus on a link",
-         [&] { SetFocus(link.hwnd()); },
-         {EVENT_OBJECT_FOCUS, link.hwnd(), OBJID_CLIENT}},
-        {"a tab selected",
-         [&] { index.SetSelected(true); },
-         {EVENT_OBJECT_SELECTION, index.hwnd(), OBJID_CLIENT}},
-        {"a caption changed",
-         [&] { link.SetCaption("Cancel"); },
-         {EVENT_OBJECT_NAMECHANGE, link.hwnd(), OBJID_CLIENT}},
-        {"the counter counting",
-         [&] { SetLiveText(counter, "42"); },
-         {EVENT_OBJECT_NAMECHANGE, counter, OBJID_CLIENT}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
+    const auto raises = [&](const std::function<void()>& act, DWORD event, HWND window) {
         seen.clear();
-        row.act();
+        act();
         MessagePump().DoEvents();
-        EXPECT_TRUE(std::ranges::find(seen, row.expected) != seen.end());
-    }
+        return std::ranges::find(seen, WinEvent{event, window, OBJID_CLIENT}) != seen.end();
+    };
+    EXPECT_TRUE(raises([&] { SetFocus(index.hwnd()); }, EVENT_OBJECT_FOCUS, index.hwnd()));
+    EXPECT_TRUE(raises([&] { SetFocus(link.hwnd()); }, EVENT_OBJECT_FOCUS, link.hwnd()));
+    EXPECT_TRUE(raises([&] { index.SetSelected(true); }, EVENT_OBJECT_SELECTION, index.hwnd()));
+    EXPECT_TRUE(raises([&] { link.SetCaption("Cancel"); }, EVENT_OBJECT_NAMECHANGE, link.hwnd()));
+    EXPECT_TRUE(raises([&] { SetLiveText(counter, "42"); }, EVENT_OBJECT_NAMECHANGE, counter))
+        << "the counter counting";
     UnhookWinEvent(hook);
 }
 

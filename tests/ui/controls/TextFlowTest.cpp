@@ -22,26 +22,20 @@ class TextFlowTest : public ::testing::Test {
         return control;
     }
 
-    int TextWidth(const std::string& text) const {
+    // A line is as high as the font's cell, which the extent's height is.
+    SIZE TextSize(const std::string& text) const {
         const WindowDC dc(parent.hwnd());
         const SelectedObject selected(dc.get(), font.get());
         SIZE size{};
         GetTextExtentPoint32A(dc.get(), text.c_str(), static_cast<int>(text.size()), &size);
-        return size.cx;
+        return size;
     }
-
-    int LineHeight() const {
-        const WindowDC dc(parent.hwnd());
-        const SelectedObject selected(dc.get(), font.get());
-        TEXTMETRICW metrics{};
-        GetTextMetricsW(dc.get(), &metrics);
-        return metrics.tmHeight;
-    }
+    int TextWidth(const std::string& text) const { return TextSize(text).cx; }
 
     test::TestParent parent;
     const LOGFONTW description = MessageFont(USER_DEFAULT_SCREEN_DPI);
     const UniqueFont font{CreateFontIndirectW(&description)};
-    const int lineHeight = LineHeight();
+    const int lineHeight = TextSize("x").cy;
 };
 
 TEST_F(TextFlowTest, FollowsTheLastWordOfTheTextOnItsLineOrStartsTheNextLine) {
