@@ -76,18 +76,14 @@ class OptionsTest : public ProgramFixture {
         dialog.ShowModeless(nullptr);
         SetForegroundWindow(dialog.hwnd());
     }
-    // A control of the dialog or of one of its pages.
+    // A control of the dialog or of one of its children, the pages.
     HWND Control(int id) const {
-        if (HWND found = GetDlgItem(dialog.hwnd(), id)) {
-            return found;
-        }
-        for (HWND page = GetWindow(dialog.hwnd(), GW_CHILD); page != nullptr;
+        HWND found = GetDlgItem(dialog.hwnd(), id);
+        for (HWND page = GetWindow(dialog.hwnd(), GW_CHILD); found == nullptr && page != nullptr;
              page = GetWindow(page, GW_HWNDNEXT)) {
-            if (HWND found = GetDlgItem(page, id)) {
-                return found;
-            }
+            found = GetDlgItem(page, id);
         }
-        return nullptr;
+        return found;
     }
     void Click(int id) const { ClickItem(GetParent(Control(id)), id); }
     // A user's click in a multi-select list: the item toggles and the list tells its parent.
@@ -111,6 +107,10 @@ class OptionsTest : public ProgramFixture {
         return texts;
     }
     bool Shown(int id) const { return IsWindowVisible(Control(id)) != FALSE; }
+    // Which page shows, by a list of each: drives, file types, words.
+    std::vector<bool> Pages() const {
+        return {Shown(IDC_OPTIONS_DRIVES), Shown(IDC_OPTIONS_INCLUDE), Shown(IDC_OPTIONS_WORDS)};
+    }
     std::string Setting(std::string_view key) const { return settings.Get("Index", key, "-"); }
 
     // The user's click on a check box, which turns it over.
@@ -153,18 +153,16 @@ TEST_F(OptionsTest, PagesKeysAndHelpThenOkStoresEverySettingInItsFormAndTellsThe
     EXPECT_EQ(UnnamedControls(dialog.hwnd()), std::vector<std::string>{});
     const HWND tabs = Control(IDC_OPTIONS_TABS);
     EXPECT_EQ(TabCtrl_GetCurSel(tabs), 2);
-    EXPECT_TRUE(Shown(IDC_OPTIONS_WORDS));
-    EXPECT_FALSE(Shown(IDC_OPTIONS_DRIVES));
-    EXPECT_FALSE(Shown(IDC_OPTIONS_INCLUDE));
+    EXPECT_EQ(Pages(), (std::vector<bool>{false, false, true}));
     Click(IDC_OPTIONS_HELP);
     SetFocus(tabs);
     PressKey(VK_TAB, {VK_CONTROL});
     EXPECT_EQ(dialog.CurrentPage(), 0) << "Ctrl+Tab goes round";
-    EXPECT_TRUE(Shown(IDC_OPTIONS_DRIVES));
+    EXPECT_EQ(Pages(), (std::vector<bool>{true, false, false}));
     Click(IDC_OPTIONS_HELP);
     dialog.Panel(1);
     EXPECT_EQ(TabCtrl_GetCurSel(tabs), 1);
-    EXPECT_TRUE(Shown(IDC_OPTIONS_INCLUDE));
+    EXPECT_EQ(Pages(), (std::vector<bool>{false, true, false}));
     EXPECT_EQ(GetFocus(), Control(IDC_OPTIONS_INCLUDE)) << "the list of the mode chosen";
     Click(IDC_OPTIONS_HELP);
     EXPECT_EQ(help.topics, (std::vector<int32_t>{100, 80, 90}));
@@ -214,19 +212,16 @@ TEST_F(OptionsTest, PagesKeysAndHelpThenOkStoresEverySettingInItsFormAndTellsThe
     Click(IDOK);
     EXPECT_TRUE(prompter.boxes.empty());
     EXPECT_FALSE(IsWindow(dialog.hwnd()));
+    std::string written;
+    settings.ForEach(
+        [&](const std::string& section, const std::string& key, const std::string& value) {
+            written += section == "Index" ? key + "=" + value + "\n" : "";
+        });
     // Drive2 is beyond the count: higher keys are left alone.
-    for (const auto& [key, value] : {std::pair{"Interval", "1.5"},
-                                     {"Filter", ".TXT "},
-                                     {"FilterIsInclude", "False"},
-                                     {"IncludeSystemFolders", "-1"},
-                                     {"IgnoreTempFolders", "0"},
-                                     {"AllFolders", "True"},
-                                     {"Drive0", "c:"},
-                                     {"Drive1", "d:"},
-                                     {"DriveCount", "2"},
-                                     {"Drive2", "stale"}}) {
-        EXPECT_EQ(Setting(key), value) << key;
-    }
+    EXPECT_EQ(
+        written,
+        "AllFolders=True\nDrive0=c:\nDrive1=d:\nDrive2=stale\nDriveCount=2\nFilter=.TXT \n"
+        "FilterIsInclude=False\nIgnoreTempFolders=0\nIncludeSystemFolders=-1\nInterval=1.5\n");
     EXPECT_EQ(index.Get().UpdateInterval, 2) << "the engine read the settings again";
     EXPECT_TRUE(index.Get().AllFolders);
     EXPECT_EQ(addWords, 0) << "no word changed";
@@ -236,10 +231,8 @@ TEST_F(OptionsTest, PagesKeysAndHelpThenOkStoresEverySettingInItsFormAndTellsThe
 }
 
 TEST_F(OptionsTest, TheAllFoldersOptionOpensAtItsBoxAndARefusedIntervalOrCancelStoresNothing) {
-    dialog.ShowAllFoldersOption();
-    dialog.ShowModeless(nullptr);
-    SetForegroundWindow(dialog.hwnd());
-    EXPECT_EQ(dialog.CurrentPage(), 0);
+    dialog.ShowAllFoldersOption();  // before the dialog is shown
+    Open(0);
     EXPECT_EQ(GetFocus(), Control(IDC_OPTIONS_ALLFOLDERS));
 
     dialog.Panel(1);
