@@ -15,6 +15,7 @@
 #include "platform/WinHandles.h"
 #include "ui/ComApartment.h"
 #include "ui/MessagePump.h"
+#include "ui/WindowClass.h"
 #include "ui/WindowText.h"
 #include "ui/controls/LabelModel.h"
 #include "ui/controls/OleColor.h"
@@ -25,13 +26,59 @@ namespace quorin {
 namespace {
 
 using Microsoft::WRL::ComPtr;
-using test::ClientSize;
-using test::Ink;
-using test::Render;
-using test::SendMouse;
-using test::Shows;
 
 constexpr COLORREF kLinkBlue = RGB(0, 0, 192);
+
+// The procedure of a plain child that counts the messages it receives.
+int spyMessages = 0;
+LRESULT CALLBACK CountingProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    ++spyMessages;
+    return DefWindowProcW(window, message, wParam, lParam);
+}
+
+void SendMouse(HWND window, UINT message, int x, int y) {
+    SendMessageW(window, message, message == WM_MOUSEMOVE ? 0 : MK_LBUTTON, MAKELPARAM(x, y));
+}
+
+SIZE ClientSize(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    return {client.right, client.bottom};
+}
+
+// A window's client area as it paints itself (through WM_PRINTCLIENT), row by row.
+std::vector<COLORREF> Render(HWND window) {
+    const SIZE size = ClientSize(window);
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biWidth = size.cx;
+    info.bmiHeader.biHeight = -size.cy;  // top-down rows
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void* bits = nullptr;
+    const UniqueMemoryDC dc(CreateCompatibleDC(nullptr));
+    const UniqueBitmap bitmap(CreateDIBSection(dc.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    const SelectedObject selected(dc.get(), bitmap.get());
+    SendMessageW(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT);
+    GdiFlush();
+    std::vector<COLORREF> pixels;
+    const auto* quads = static_cast<const RGBQUAD*>(bits);
+    for (int i = 0; i < size.cx * size.cy; ++i) {
+        pixels.push_back(RGB(quads[i].rgbRed, quads[i].rgbGreen, quads[i].rgbBlue));
+    }
+    return pixels;
+}
+
+bool Shows(HWND window, COLORREF color) {
+    return std::ranges::count(Render(window), color) > 0;
+}
+
+// The number of pixels unlike the top left one: the ink of a caption.
+int Ink(HWND window) {
+    const std::vector<COLORREF> pixels = Render(window);
+    return static_cast<int>(std::count_if(pixels.begin(), pixels.end(),
+                                          [&](COLORREF pixel) { return pixel != pixels[0]; }));
+}
 
 bool SameSize(SIZE a, SIZE b) {
     return a.cx == b.cx && a.cy == b.cy;
@@ -132,8 +179,10 @@ TEST_F(LabelTest, SelectingATabDeselectsEveryTabOfItsWindowAndTouchesNothingElse
     const HWND panel = CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 40, 200, 60, parent.hwnd(),
                                        nullptr, nullptr, nullptr);
     ctlTabLabel& nested = ctlTabLabel::Create(panel, 4, "Help", 0, 0);
-    int spyMessages = 0;
-    test::CreateSpyChild(parent.hwnd(), spyMessages);
+    static const ATOM spy =
+        RegisterWindowClass({.name = L"QuorinTestSpy", .procedure = &CountingProcedure});
+    CreateWindowExW(0, MAKEINTATOM(spy), L"Spy", WS_CHILD | WS_VISIBLE, 300, 100, 50, 20,
+                    parent.hwnd(), nullptr, nullptr, nullptr);
     test::TestParent otherWindow;
     ctlTabLabel& elsewhere = ctlTabLabel::Create(otherWindow.hwnd(), 1, "Go", 0, 0);
     elsewhere.SetSelected(true);
