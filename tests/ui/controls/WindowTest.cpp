@@ -106,21 +106,6 @@ TEST(MessagePump, DoEventsRunsEverythingWaitingAndLeavesQuitToTheMainLoop) {
     EXPECT_EQ(MessagePump::Run(), 7);
 }
 
-TEST(MessagePump, TabMovesTheFocusInAPlainWindow) {
-    test::TestParent window;
-    const auto button = [&](int y) {
-        return CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 10, y, 80, 24,
-                               window.hwnd(), nullptr, nullptr, nullptr);
-    };
-    const HWND first = button(10);
-    const HWND second = button(40);
-    SetActiveWindow(window.hwnd());
-    SetFocus(first);
-    PostMessageW(first, WM_KEYDOWN, VK_TAB, 0);
-    MessagePump().DoEvents();
-    EXPECT_EQ(GetFocus(), second);
-}
-
 class TextFlowTest : public ::testing::Test {
   protected:
     // A static in the test's font at (x, y), `lines` lines high.
