@@ -25,8 +25,7 @@ namespace {
 constexpr char kScratchRun[] = "Software\\QuorinTest\\Options\\Run";
 
 // The main window's hotkey as the dialog sees it.
-class FakeHotkeys final : public HotkeyTarget {
-  public:
+struct FakeHotkeys final : HotkeyTarget {
     bool ApplyHotkey(const std::optional<Hotkey>& hotkey) override {
         applied.push_back(hotkey);
         return true;
@@ -39,23 +38,20 @@ class FakeHotkeys final : public HotkeyTarget {
 
 // The settings as the dialog sees them, where the key named in `refused` ("Section/Key")
 // cannot be written.
-class RefusingStore final : public SettingsStore {
-  public:
-    explicit RefusingStore(SettingsStore& store) : store_(store) {}
+struct RefusingStore final : SettingsStore {
+    explicit RefusingStore(SettingsStore& inner) : store(inner) {}
     std::string Get(std::string_view section, std::string_view key,
                     std::string_view defaultValue) const override {
-        return store_.Get(section, key, defaultValue);
+        return store.Get(section, key, defaultValue);
     }
     void Save(std::string_view section, std::string_view key, std::string_view value) override {
         if (refused == std::string(section) + "/" + std::string(key)) {
             throw Error("The setting \"" + refused + "\" could not be saved.");
         }
-        store_.Save(section, key, value);
+        store.Save(section, key, value);
     }
+    SettingsStore& store;
     std::string refused;
-
-  private:
-    SettingsStore& store_;
 };
 
 class OptionsTest : public ProgramFixture {
