@@ -16,23 +16,21 @@
 namespace quorin {
 namespace {
 
-// Fails at the message the test names.
+// Fails while it is made.
 class FailingWindow final : public Window {
   public:
-    explicit FailingWindow(UINT failAt) : failAt_(failAt) {
+    FailingWindow() {
         static const ATOM atom = RegisterWindowClass({.name = L"QuorinTestFailing"});
         Create(MAKEINTATOM(atom), {.title = "Failing"});
     }
 
   private:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message == failAt_) {
-            throw std::runtime_error("The test handler failed.");
+        if (message == WM_CREATE) {
+            throw std::runtime_error("The window could not be made.");
         }
         return Window::HandleMessage(message, wParam, lParam);
     }
-
-    UINT failAt_;
 };
 
 // Counts the live objects of a class whose windows make their own.
@@ -73,7 +71,8 @@ TEST(Window, ObjectAndWindowAreBoundForTheWindowsLifetimeAndSelfOwnedObjectsDieW
 
 TEST(WindowErrors, AnErrorInAHandlerIsReportedOnceAndGoesNoFurther) {
     std::vector<std::string> reports;
-    const FailingWindow window(WM_APP);
+    test::TestParent window;
+    window.onApp = [](WPARAM) { throw std::runtime_error("The test handler failed."); };
     SetWindowErrorHandler([&](std::string_view message) {
         reports.emplace_back(message);
         SendMessageW(window.hwnd(), WM_APP, 0, 0);  // fails again, as a repaint would
@@ -83,7 +82,7 @@ TEST(WindowErrors, AnErrorInAHandlerIsReportedOnceAndGoesNoFurther) {
         << "errors while an error is shown are not stacked";
     SendMessageW(window.hwnd(), WM_APP, 0, 0);
     EXPECT_EQ(reports.size(), 2u);
-    EXPECT_THROW(FailingWindow{WM_CREATE}, Error) << "a window whose creation fails is not made";
+    EXPECT_THROW(FailingWindow{}, Error) << "a window whose creation fails is not made";
     SetWindowErrorHandler(nullptr);
     EXPECT_EQ(reports.size(), 3u);
 }

@@ -82,23 +82,15 @@ TEST(ParseHelpFile,
         ParseHelpFile("@topic 30 Good\nkept\n"), same));
 }
 
-TEST(HelpFile, ThePathHasOneSeparatorAndATopicIsTheFirstOfItsNumber) {
+TEST(HelpFile, ThePathHasOneSeparatorATopicIsTheFirstOfItsNumberAndAMissingOneIsExplained) {
     EXPECT_EQ(HelpFilePath("C:\\"), "C:\\qn.HLP");
     EXPECT_EQ(HelpFilePath("C:\\Quorin"), "C:\\Quorin\\qn.HLP");
     EXPECT_EQ(HelpFilePath("  C:\\Program Files\\Quorin  "), "C:\\Program Files\\Quorin\\qn.HLP");
     EXPECT_EQ(HelpFilePath(" C:\\ "), "C:\\qn.HLP");
-    const std::vector<HelpTopic> topics =
-        ParseHelpFile("@topic 10 First\n@topic 20 Other\n@topic 10 Second\n");
-    ASSERT_NE(FindHelpTopic(topics, 10), nullptr);
-    EXPECT_EQ(FindHelpTopic(topics, 10)->title, "First");
-    EXPECT_EQ(FindHelpTopic(topics, 20)->title, "Other");
-    EXPECT_EQ(FindHelpTopic(topics, 80), nullptr);
-}
 
-TEST(LoadHelpTopic, ExplainsAMissingTopicOrFileInTheTopicItself) {
     const TempFolder folder;
-    const std::string file = folder.WriteFile("qn.HLP", "@topic 10 Using Quorin\nType.\n");
-
+    const std::string file =
+        folder.WriteFile("qn.HLP", "@topic 10 Using Quorin\nType.\n@topic 10 Second\nNo.\n");
     const HelpTopic found = LoadHelpTopic(file, 10);
     EXPECT_EQ(found.title, "Using Quorin");
     EXPECT_EQ(found.blocks, (std::vector<HelpBlock>{{Kind::Paragraph, "Type."}}));
