@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ui/Window.h"
+#include "ui/WindowClass.h"
 
 namespace quorin::test {
 
@@ -19,13 +20,30 @@ class TestParent final : public Window {
         HWND from;
     };
 
-    TestParent();
+    TestParent() {
+        static const ATOM atom = RegisterWindowClass({.name = L"QuorinTestParent"});
+        Create(MAKEINTATOM(atom), {.title = "Test parent",
+                                   .style = WS_OVERLAPPEDWINDOW,
+                                   .x = 40,
+                                   .y = 40,
+                                   .width = 420,
+                                   .height = 240});
+    }
 
     std::vector<Command> commands;
     std::function<void(WPARAM)> onApp;
 
   private:
-    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_COMMAND) {
+            commands.push_back({LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam)});
+        } else if (message == WM_APP && onApp) {
+            onApp(wParam);
+        } else {
+            return Window::HandleMessage(message, wParam, lParam);
+        }
+        return 0;
+    }
 };
 
 }  // namespace quorin::test
