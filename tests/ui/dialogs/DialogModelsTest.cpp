@@ -36,7 +36,7 @@ TEST(IntervalTextTest, LeadingNumberInShortestFormAndOneForZero) {
     }
 }
 
-TEST(FileTypeListsTest, KeepsPlainExtensionsInRegistryOrderAndPreselectsInTheSavedModesList) {
+TEST(FileTypeListsTest, PlainExtensionsInRegistryOrderPreselectedByTheSavedFilterAndMode) {
     EXPECT_EQ(FileTypeNames({"*", ".txt", ".tar.gz", ".a,b", "txtfile", ".Doc", ".", ".x*", ""}),
               (Names{".txt", ".Doc", "."}));
     for (const bool include : {true, false}) {
@@ -49,9 +49,8 @@ TEST(FileTypeListsTest, KeepsPlainExtensionsInRegistryOrderAndPreselectsInTheSav
     EXPECT_FALSE(FilterLists(".HTML .TXT", ".htm"));
     EXPECT_FALSE(FilterLists(".HTML .TXT", ".txt"));
     EXPECT_TRUE(FilterLists(".HTML .TXT", ".html"));
-}
 
-TEST(FileTypeListsTest, FilterFollowsListOrderAndModeChangeTakesTheComplement) {
+    // The filter follows the list's order; a mode change takes the complement.
     FileTypeLists lists({".Doc", ".txt", ".bmp"}, ".DOC ", true);
     EXPECT_EQ(lists.Filter(FileTypeList::Include), ".DOC ");
 
