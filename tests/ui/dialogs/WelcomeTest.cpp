@@ -223,14 +223,14 @@ TEST(KnownExtensions, ListsTheClassesRootsFileTypesInItsOrderBeyondTheBound) {
     for (const char* name : {".qkb", ".QKA", ".qkc.gz", "QuorinTest.qkd", ".qk*"}) {
         classes.CreateKey(name);
     }
-    constexpr int kExtensions = 3000;
-    for (int i = 0; i < kExtensions; ++i) {
-        classes.CreateKey(".qk" + std::to_string(10000 + i));
-    }
-    // Named to stand before Wine's own 51-character "Microsoft.DirectMusic..." key, whose name
-    // would end the listing before the bound.
-    for (int i = 0; i < 8000 - kExtensions; ++i) {
+    std::vector<std::string> expected;
+    for (int i = 0; i < 3000; ++i) {
+        expected.push_back(".qk" + std::to_string(10000 + i));
+        classes.CreateKey(expected.back());
+        // Named to stand before Wine's own 51-character "Microsoft.DirectMusic..." key, whose
+        // name would end the listing before the bound.
         classes.CreateKey("Class.QuorinTest" + std::to_string(10000 + i));
+        classes.CreateKey("Class.QuorinTest" + std::to_string(20000 + i));
     }
 
     const std::vector<std::string> known = KnownExtensions(clsRegistry());
@@ -239,12 +239,8 @@ TEST(KnownExtensions, ListsTheClassesRootsFileTypesInItsOrderBeyondTheBound) {
     std::copy_if(known.begin(), known.end(), std::back_inserter(ours), [](const std::string& name) {
         return name.rfind(".qk", 0) == 0 || name == ".QKA";
     });
-    ASSERT_EQ(ours.size(), size_t{kExtensions + 2});
-    EXPECT_TRUE(std::is_sorted(ours.begin(), ours.begin() + kExtensions));
-    EXPECT_EQ(ours.front(), ".qk10000");
-    EXPECT_EQ(ours[kExtensions - 1], ".qk12999");
-    EXPECT_EQ(ours[kExtensions], ".QKA");
-    EXPECT_EQ(ours.back(), ".qkb");
+    expected.insert(expected.end(), {".QKA", ".qkb"});
+    EXPECT_TRUE(ours == expected) << ours.size() << " of ours listed";
 }
 
 }  // namespace
