@@ -8,6 +8,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "TestWindows.h"
@@ -85,27 +86,20 @@ bool SameSize(SIZE a, SIZE b) {
 }
 
 TEST(LabelModel, InsideTestsOfTheTwoLabels) {
-    struct Case {
-        int x, y;
-        bool tab, link;
-    };
     // 10 x 5 pixels: the tab counts its whole area, the link leaves out its first row and column.
-    for (const Case c : {Case{0, 0, true, false}, Case{0, 2, true, false}, Case{4, 0, true, false},
-                         Case{1, 1, true, true}, Case{9, 4, true, true}, Case{10, 2, false, false},
-                         Case{4, 5, false, false}, Case{-1, 2, false, false}}) {
-        EXPECT_EQ(InsideTabLabel(c.x, c.y, 10, 5), c.tab) << c.x << "," << c.y;
-        EXPECT_EQ(InsideLinkLabel(c.x, c.y, 10, 5), c.link) << c.x << "," << c.y;
+    const std::tuple<int, int, bool, bool> cases[] = {
+        {0, 0, true, false}, {0, 2, true, false},   {4, 0, true, false},  {1, 1, true, true},
+        {9, 4, true, true},  {10, 2, false, false}, {4, 5, false, false}, {-1, 2, false, false},
+    };
+    for (const auto& [x, y, tab, link] : cases) {
+        EXPECT_EQ(InsideTabLabel(x, y, 10, 5), tab) << x << "," << y;
+        EXPECT_EQ(InsideLinkLabel(x, y, 10, 5), link) << x << "," << y;
     }
 }
 
 TEST(LabelModel, MouseSequences) {
-    struct Case {
-        std::string_view steps;
-        bool underlined, captured;
-        int clicks;
-    };
     // m/M a move outside/inside, d/D a press, u/U a release, r a reset, s selecting the tab first.
-    const Case cases[] = {
+    const std::tuple<std::string_view, bool, bool, int> cases[] = {
         {"M", true, true, 0},      // hover underlines and holds the capture
         {"Mm", false, false, 0},   // leaving lets both go
         {"sM", false, false, 0},   // a selected tab neither underlines nor captures
@@ -120,10 +114,10 @@ TEST(LabelModel, MouseSequences) {
         {"sDr", false, false, 0},  // a capture taken away drops the press, not the selection
         {"DrU", true, true, 0},    // ... so the release after it is only a move
     };
-    for (const Case& c : cases) {
+    for (const auto& [steps, underlined, captured, clickCount] : cases) {
         LabelModel model;
         int clicks = 0;
-        for (const char step : c.steps) {
+        for (const char step : steps) {
             const bool inside = std::isupper(static_cast<unsigned char>(step)) != 0;
             switch (std::tolower(static_cast<unsigned char>(step))) {
                 case 's':
@@ -142,10 +136,10 @@ TEST(LabelModel, MouseSequences) {
                     model.Reset();
             }
         }
-        EXPECT_EQ(model.Underlined(), c.underlined) << c.steps;
-        EXPECT_EQ(model.Captured(), c.captured) << c.steps;
-        EXPECT_EQ(clicks, c.clicks) << c.steps;
-        EXPECT_EQ(model.Selected(), c.steps[0] == 's') << c.steps;
+        EXPECT_EQ(model.Underlined(), underlined) << steps;
+        EXPECT_EQ(model.Captured(), captured) << steps;
+        EXPECT_EQ(clicks, clickCount) << steps;
+        EXPECT_EQ(model.Selected(), steps[0] == 's') << steps;
     }
 }
 

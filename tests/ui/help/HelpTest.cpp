@@ -187,22 +187,16 @@ TEST(HelpViewer, OpensTheTopicWhereThePositionRecordSaysAndReusesTheWindowUntilC
 }
 
 TEST(HelpViewerPlace, HalfTheScreenButScaledWithTheDpiAndInsideTheWorkArea) {
-    struct Case {
-        RECT monitor;
-        RECT workArea;
-        int dpi;
-        RECT place;
-    };
-    const Case kCases[] = {
+    const std::tuple<RECT, RECT, int, RECT> cases[] = {
         {{0, 0, 1280, 800}, {0, 0, 1280, 770}, 96, {320, 200, 960, 600}},
         {{0, 0, 1920, 1080}, {0, 0, 1920, 1040}, 96, {480, 270, 1440, 810}},
         {{0, 0, 1280, 800}, {0, 0, 1280, 770}, 144, {320, 170, 1280, 770}},  // 960 x 600
         {{1280, 0, 2560, 800}, {1280, 0, 2560, 800}, 192, {1280, 0, 2560, 800}},
     };
-    for (const Case& c : kCases) {
-        const RECT place = HelpViewerPlace(HelpWindowPosition{}, c.monitor, c.workArea, c.dpi);
-        EXPECT_TRUE(EqualRect(&place, &c.place))
-            << c.dpi << " dpi: " << place.left << "," << place.top << "-" << place.right << ","
+    for (const auto& [monitor, workArea, dpi, expected] : cases) {
+        const RECT place = HelpViewerPlace(HelpWindowPosition{}, monitor, workArea, dpi);
+        EXPECT_TRUE(EqualRect(&place, &expected))
+            << dpi << " dpi: " << place.left << "," << place.top << "-" << place.right << ","
             << place.bottom;
     }
 }
