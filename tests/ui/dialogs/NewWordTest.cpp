@@ -20,13 +20,6 @@ class NewWordTest : public ProgramFixture {
     HWND Field(int id) const { return GetDlgItem(dialog.hwnd(), id); }
     void Type(int id, std::string_view text) const { SetText(Field(id), text); }
     void Click(int id) const { ClickItem(dialog.hwnd(), id); }
-    std::vector<std::string> Boxes() const {
-        std::vector<std::string> texts;
-        for (const ScriptedPrompter::Box& box : prompter.boxes) {
-            texts.push_back(box.title + ": " + box.text);
-        }
-        return texts;
-    }
 
     std::string file;
     FakeFileChooser files;
@@ -54,9 +47,13 @@ TEST_F(NewWordTest, RefusesWhatItCannotAddAtTheFieldToFixKeepsTheLastBrowseAndTa
     Click(IDOK);
     Type(IDC_NEWWORD_FILENAME, JoinPath(tree.Path(), "docs"));
     Click(IDOK);
-    EXPECT_EQ(Boxes(), (std::vector<std::string>{"Cannot add: Pleae enter a word to assign.",
-                                                 "Cannot add: That is not a valid filename.",
-                                                 "Cannot add: That is not a valid filename."}))
+    std::vector<std::string> boxes;
+    for (const ScriptedPrompter::Box& box : prompter.boxes) {
+        boxes.push_back(box.title + ": " + box.text);
+    }
+    EXPECT_EQ(boxes, (std::vector<std::string>{"Cannot add: Pleae enter a word to assign.",
+                                               "Cannot add: That is not a valid filename.",
+                                               "Cannot add: That is not a valid filename."}))
         << "Enter presses OK; a folder is not a file";
     EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Information);
     EXPECT_EQ(GetFocus(), Field(IDC_NEWWORD_FILENAME));

@@ -121,10 +121,6 @@ TEST(ShippedHelpFile, HasEveryTopicTheProgramOpens) {
     }
 }
 
-HWND Viewer() {
-    return FindWindowW(kHelpViewerClass, nullptr);
-}
-
 std::string ShownText(HWND viewer) {
     return WindowText(FindWindowExW(viewer, nullptr, MSFTEDIT_CLASS, nullptr));
 }
@@ -148,7 +144,7 @@ TEST(HelpViewer, OpensTheTopicWhereThePositionRecordSaysAndReusesTheWindowUntilC
     help.Setup(nullptr);
     EXPECT_EQ(help.File(), JoinPath(folder.Path(), "qn.HLP"));
     help.ShowTopic(kHelpUsingQuorin);
-    const HWND viewer = Viewer();
+    const HWND viewer = FindWindowW(kHelpViewerClass, nullptr);
     ASSERT_NE(viewer, nullptr);
     EXPECT_TRUE(IsWindowVisible(viewer));
     EXPECT_EQ(GetWindow(viewer, GW_OWNER), nullptr);  // help outlives a hidden main window
@@ -166,7 +162,7 @@ TEST(HelpViewer, OpensTheTopicWhereThePositionRecordSaysAndReusesTheWindowUntilC
 
     SetWindowPos(viewer, nullptr, 10, 20, 400, 300, SWP_NOZORDER);
     help.ShowTopic(kHelpSettingUp);
-    EXPECT_EQ(Viewer(), viewer);
+    EXPECT_EQ(FindWindowW(kHelpViewerClass, nullptr), viewer);
     text = ShownText(viewer);
     EXPECT_NE(text.find("Choose the drives."), std::string::npos) << text;
     EXPECT_EQ(text.find("Type a word."), std::string::npos) << text;
@@ -178,7 +174,7 @@ TEST(HelpViewer, OpensTheTopicWhereThePositionRecordSaysAndReusesTheWindowUntilC
     SendMessageW(viewer, WM_CLOSE, 0, 0);  // the user closes it
     EXPECT_FALSE(IsWindow(viewer));
     help.ShowTopic(kHelpSettingUp);
-    const HWND reopened = Viewer();
+    const HWND reopened = FindWindowW(kHelpViewerClass, nullptr);
     ASSERT_NE(reopened, nullptr);
     EXPECT_TRUE(IsWindowVisible(reopened));
     help.Close();
