@@ -22,12 +22,7 @@ class TestParent final : public Window {
 
     TestParent() {
         static const ATOM atom = RegisterWindowClass({.name = L"QuorinTestParent"});
-        Create(MAKEINTATOM(atom), {.title = "Test parent",
-                                   .style = WS_OVERLAPPEDWINDOW,
-                                   .x = 40,
-                                   .y = 40,
-                                   .width = 420,
-                                   .height = 240});
+        Create(MAKEINTATOM(atom), {.title = "Test parent", .style = WS_OVERLAPPEDWINDOW});
     }
 
     std::vector<Command> commands;
