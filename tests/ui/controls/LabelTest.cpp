@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cctype>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -149,9 +150,8 @@ class LabelTest : public ::testing::Test {
     void SetUp() override { go.SetSelected(true); }
     std::vector<int> Clicked() const {
         std::vector<int> ids;
-        for (const auto& command : parent.commands) {
-            ids.push_back(command.id);
-        }
+        std::ranges::transform(parent.commands, std::back_inserter(ids),
+                               &test::TestParent::Command::id);
         return ids;
     }
 
@@ -350,8 +350,7 @@ TEST_F(LabelTest, MouseAndKeysFollowTheModelWithEachLabelsOwnInsideTest) {
     EXPECT_EQ(Ink(link.hwnd()), linkInk);
 }
 
-TEST(LabelCreation, WithoutACaptionBothLabelsShowTheDefaultOne) {
-    test::TestParent parent;
+TEST_F(LabelTest, WithoutACaptionBothLabelsShowTheDefaultOne) {
     for (const ATOM atom : {ctlTabLabel::Register(), ctlLinkLabel::Register()}) {
         const HWND window = CreateWindowExW(0, MAKEINTATOM(atom), nullptr, WS_CHILD, 0, 0, 0, 0,
                                             parent.hwnd(), nullptr, nullptr, nullptr);
