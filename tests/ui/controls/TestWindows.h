@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ui/Window.h"
+#include "ui/WindowClass.h"
 
 namespace quorin::test {
 
@@ -19,27 +20,25 @@ class TestParent final : public Window {
         HWND from;
     };
 
-    TestParent();
+    TestParent() {
+        static const ATOM atom = RegisterWindowClass({.name = L"QuorinTestParent"});
+        Create(MAKEINTATOM(atom), {.title = "Test parent", .style = WS_OVERLAPPEDWINDOW});
+    }
 
     std::vector<Command> commands;
     std::function<void(WPARAM)> onApp;
 
   private:
-    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_COMMAND) {
+            commands.push_back({LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam)});
+        } else if (message == WM_APP && onApp) {
+            onApp(wParam);
+        } else {
+            return Window::HandleMessage(message, wParam, lParam);
+        }
+        return 0;
+    }
 };
-
-// A plain child window that counts the messages it receives.
-HWND CreateSpyChild(HWND parent, int& messageCount);
-
-// A mouse message with client coordinates, as the system delivers it.
-void SendMouse(HWND window, UINT message, int x, int y);
-
-SIZE ClientSize(HWND window);
-
-// A window's client area as it paints itself (through WM_PRINTCLIENT), row by row.
-std::vector<COLORREF> Render(HWND window);
-bool Shows(HWND window, COLORREF color);
-// The number of pixels unlike the top left one: the ink of a caption.
-int Ink(HWND window);
 
 }  // namespace quorin::test

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "platform/Path.h"
-#include "ui/dialogs/DialogTexts.h"
 #include "ui/dialogs/DriveChoice.h"
 #include "ui/dialogs/FileTypeLists.h"
 #include "ui/dialogs/IntervalText.h"
@@ -37,12 +36,9 @@ TEST(IntervalTextTest, LeadingNumberInShortestFormAndOneForZero) {
     }
 }
 
-TEST(FileTypeListsTest, KeepsOnlyPlainExtensionsInRegistryOrderAndCase) {
+TEST(FileTypeListsTest, PlainExtensionsInRegistryOrderPreselectedByTheSavedFilterAndMode) {
     EXPECT_EQ(FileTypeNames({"*", ".txt", ".tar.gz", ".a,b", "txtfile", ".Doc", ".", ".x*", ""}),
               (Names{".txt", ".Doc", "."}));
-}
-
-TEST(FileTypeListsTest, SavedFilterPreselectsInTheSavedModesListOnly) {
     for (const bool include : {true, false}) {
         const FileTypeLists lists({".txt", ".doc", ".bmp"}, ".TXT .BMP ", include);
         EXPECT_EQ(lists.Selection(FileTypeList::Include), (Marks{include, false, include}));
@@ -53,9 +49,8 @@ TEST(FileTypeListsTest, SavedFilterPreselectsInTheSavedModesListOnly) {
     EXPECT_FALSE(FilterLists(".HTML .TXT", ".htm"));
     EXPECT_FALSE(FilterLists(".HTML .TXT", ".txt"));
     EXPECT_TRUE(FilterLists(".HTML .TXT", ".html"));
-}
 
-TEST(FileTypeListsTest, FilterFollowsListOrderAndModeChangeTakesTheComplement) {
+    // The filter follows the list's order; a mode change takes the complement.
     FileTypeLists lists({".Doc", ".txt", ".bmp"}, ".DOC ", true);
     EXPECT_EQ(lists.Filter(FileTypeList::Include), ".DOC ");
 
@@ -112,14 +107,6 @@ TEST(NewWordModelTest, SplitsAtTheLastSeparatorBeforeTheFinalCharacter) {
         EXPECT_EQ(split.folder, native(folder)) << path;
         EXPECT_EQ(split.fileName, native(file)) << path;
     }
-}
-
-TEST(DialogTextsTest, BuiltTextsQuoteWhatTheyName) {
-    EXPECT_EQ(ConfirmDeleteText("notes", "C:\\DOCS\\notes.txt"),
-              "Are you sure you want to disassociate the word 'notes' from the file "
-              "'C:\\DOCS\\notes.txt'?");
-    EXPECT_NE(WordAlreadyAssignedText("notes").find("'notes'"), std::string::npos);
-    EXPECT_NE(BadIntervalText("9999999999").find("\"9999999999\""), std::string::npos);
 }
 
 }  // namespace

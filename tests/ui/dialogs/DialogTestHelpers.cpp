@@ -1,5 +1,7 @@
 #include "DialogTestHelpers.h"
 
+#include <utility>
+
 #include "ui/MessagePump.h"
 
 namespace quorin::test {
@@ -33,21 +35,17 @@ void PressAndRelease(HWND control) {
 
 namespace {
 
-std::function<void()>& Pending() {
-    static std::function<void()> action;
-    return action;
-}
+std::function<void()> pending;
 
 void CALLBACK RunPending(HWND, UINT, UINT_PTR id, DWORD) {
     KillTimer(nullptr, id);
-    const std::function<void()> action = std::move(Pending());
-    action();
+    std::exchange(pending, nullptr)();
 }
 
 }  // namespace
 
 void WhenLoopRuns(std::function<void()> action) {
-    Pending() = std::move(action);
+    pending = std::move(action);
     SetTimer(nullptr, 0, 1, &RunPending);
 }
 

@@ -17,39 +17,44 @@ class NewWordTest : public ProgramFixture {
   protected:
     NewWordTest() { file = tree.WriteFile("docs\\plan.txt", "plan"); }
 
-    void Open() { dialog.ShowModeless(nullptr); }
     HWND Field(int id) const { return GetDlgItem(dialog.hwnd(), id); }
     void Type(int id, std::string_view text) const { SetText(Field(id), text); }
     void Click(int id) const { ClickItem(dialog.hwnd(), id); }
-    std::vector<std::string> Boxes() const {
-        std::vector<std::string> texts;
-        for (const ScriptedPrompter::Box& box : prompter.boxes) {
-            texts.push_back(box.title + ": " + box.text);
-        }
-        return texts;
-    }
 
     std::string file;
     FakeFileChooser files;
     frmNewWord dialog{NewWordServices{index.Get(), prompter, files, nullptr}};
 };
 
-TEST_F(NewWordTest, RefusesAnEmptyWordABadFileAndAnAssignedWordThenAcceptsAWildcard) {
+TEST_F(NewWordTest, RefusesWhatItCannotAddAtTheFieldToFixKeepsTheLastBrowseAndTakesAWildcard) {
     index.Get().AddWord({"notes", "old.txt", 0, "NOTES"});
-    Open();
+    dialog.ShowModeless(nullptr);
+    SetForegroundWindow(dialog.hwnd());
     EXPECT_EQ(WindowText(dialog.hwnd()), "Add New Word");
     EXPECT_EQ(UnnamedControls(dialog.hwnd()), std::vector<std::string>{});
+    EXPECT_EQ(GetFocus(), Field(IDC_NEWWORD_WORD)) << "the first control has the focus";
     Type(IDC_NEWWORD_WORD, "   ");
+    HDC dc = GetDC(Field(IDC_NEWWORD_WORD));
+    EXPECT_EQ(SendMessageW(dialog.hwnd(), WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc),
+                           reinterpret_cast<LPARAM>(Field(IDC_NEWWORD_WORD))),
+              reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_INFOBK)));
+    ReleaseDC(Field(IDC_NEWWORD_WORD), dc);
+    PressKey(VK_TAB);
+    EXPECT_EQ(GetFocus(), Field(IDC_NEWWORD_FILENAME));
     Type(IDC_NEWWORD_FILENAME, JoinPath(tree.Path(), "missing.txt"));
-    Click(IDOK);
+    PressKey(VK_RETURN);
     Type(IDC_NEWWORD_WORD, "plan");
     Click(IDOK);
     Type(IDC_NEWWORD_FILENAME, JoinPath(tree.Path(), "docs"));
     Click(IDOK);
-    EXPECT_EQ(Boxes(), (std::vector<std::string>{"Cannot add: Pleae enter a word to assign.",
-                                                 "Cannot add: That is not a valid filename.",
-                                                 "Cannot add: That is not a valid filename."}))
-        << "a folder is not a file";
+    std::vector<std::string> boxes;
+    for (const ScriptedPrompter::Box& box : prompter.boxes) {
+        boxes.push_back(box.title + ": " + box.text);
+    }
+    EXPECT_EQ(boxes, (std::vector<std::string>{"Cannot add: Pleae enter a word to assign.",
+                                               "Cannot add: That is not a valid filename.",
+                                               "Cannot add: That is not a valid filename."}))
+        << "Enter presses OK; a folder is not a file";
     EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Information);
     EXPECT_EQ(GetFocus(), Field(IDC_NEWWORD_FILENAME));
 
@@ -62,20 +67,36 @@ TEST_F(NewWordTest, RefusesAnEmptyWordABadFileAndAnAssignedWordThenAcceptsAWildc
     EXPECT_TRUE(IsWindow(dialog.hwnd())) << "the dialog stays open";
     EXPECT_EQ(index.Get().Words().Item("notes")->Filename, "old.txt");
 
+    files.answer = JoinPath(JoinPath(tree.Path(), "docs"), "*.TXT");
+    Click(IDC_NEWWORD_BROWSE);
+    EXPECT_EQ(WindowText(Field(IDC_NEWWORD_FILENAME)), files.answer);
+    EXPECT_EQ(files.filters.back(), "All files (*.*)|*.*");
+    files.answer.clear();  // cancelled: the earlier choice comes back
+    Type(IDC_NEWWORD_FILENAME, "typed over");
+    Click(IDC_NEWWORD_BROWSE);
+    EXPECT_EQ(files.starts.back(), JoinPath(JoinPath(tree.Path(), "docs"), "*.TXT"));
     Type(IDC_NEWWORD_WORD, "plans");
-    Type(IDC_NEWWORD_FILENAME, JoinPath(JoinPath(tree.Path(), "docs"), "*.TXT"));
     Click(IDOK);
     EXPECT_FALSE(IsWindow(dialog.hwnd()));
     ASSERT_NE(index.Get().Words().Item("plans"), nullptr);
     EXPECT_EQ(index.Get().Words().Item("plans")->Filename, "*.TXT");
 }
 
+// Escape cancels the first time; the second, OK assigns the word with its blanks to the file.
 TEST_F(NewWordTest, AsAModalOverItsOwnerAssignsTheWordAsTypedToTheFile) {
     SilentBuildProgress progress;
     index.Get().CreateIndex(true, progress);
     // Hidden: a shown window costs Wine seconds to close without a window manager.
     const HWND owner = CreateWindowExW(0, L"STATIC", L"owner", WS_OVERLAPPEDWINDOW, 0, 0, 200, 100,
                                        nullptr, nullptr, nullptr, nullptr);
+    WhenLoopRuns([&] {
+        Type(IDC_NEWWORD_WORD, "x");
+        Type(IDC_NEWWORD_FILENAME, file);
+        SetFocus(Field(IDC_NEWWORD_FILENAME));
+        PressKey(VK_ESCAPE);
+    });
+    EXPECT_EQ(dialog.ShowModal(owner), IDCANCEL);
+    EXPECT_EQ(index.Get().Words().Count(), 0);
     bool ownerEnabled = true;
     WhenLoopRuns([&] {
         ownerEnabled = IsWindowEnabled(owner) != FALSE;
@@ -97,38 +118,6 @@ TEST_F(NewWordTest, AsAModalOverItsOwnerAssignsTheWordAsTypedToTheFile) {
     EXPECT_EQ(item->Filename, "plan.txt");
     EXPECT_EQ(index.Get().GetPath(item->Directory), JoinPath(tree.Path(), "docs"));
     EXPECT_TRUE(FileExists(JoinPath(program.Path(), "words.txt"))) << "saved at once";
-}
-
-TEST_F(NewWordTest, FocusColoursKeysAndBrowseThatKeepsTheLastChoice) {
-    Open();
-    SetForegroundWindow(dialog.hwnd());
-    EXPECT_EQ(GetFocus(), Field(IDC_NEWWORD_WORD)) << "the first control has the focus";
-    Type(IDC_NEWWORD_WORD, "x");
-    HDC dc = GetDC(Field(IDC_NEWWORD_WORD));
-    EXPECT_EQ(SendMessageW(dialog.hwnd(), WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc),
-                           reinterpret_cast<LPARAM>(Field(IDC_NEWWORD_WORD))),
-              reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_INFOBK)));
-    ReleaseDC(Field(IDC_NEWWORD_WORD), dc);
-    PressKey(VK_TAB);
-    EXPECT_EQ(GetFocus(), Field(IDC_NEWWORD_FILENAME));
-    PressKey(VK_RETURN);
-    EXPECT_EQ(Boxes(), (std::vector<std::string>{"Cannot add: That is not a valid filename."}))
-        << "Enter presses OK";
-
-    files.answer = file;
-    Click(IDC_NEWWORD_BROWSE);
-    EXPECT_EQ(WindowText(Field(IDC_NEWWORD_FILENAME)), file);
-    EXPECT_EQ(files.filters.back(), "All files (*.*)|*.*");
-    files.answer.clear();  // cancelled: the earlier choice comes back
-    Type(IDC_NEWWORD_FILENAME, "typed over");
-    Click(IDC_NEWWORD_BROWSE);
-    EXPECT_EQ(WindowText(Field(IDC_NEWWORD_FILENAME)), file);
-    EXPECT_EQ(files.starts.back(), file);
-
-    SetFocus(Field(IDC_NEWWORD_FILENAME));
-    PressKey(VK_ESCAPE);
-    EXPECT_FALSE(IsWindow(dialog.hwnd())) << "Escape cancels";
-    EXPECT_EQ(index.Get().Words().Count(), 0);
 }
 
 }  // namespace

@@ -25,8 +25,7 @@ namespace {
 constexpr char kScratchRun[] = "Software\\QuorinTest\\Options\\Run";
 
 // The main window's hotkey as the dialog sees it.
-class FakeHotkeys final : public HotkeyTarget {
-  public:
+struct FakeHotkeys final : HotkeyTarget {
     bool ApplyHotkey(const std::optional<Hotkey>& hotkey) override {
         applied.push_back(hotkey);
         return true;
@@ -39,23 +38,20 @@ class FakeHotkeys final : public HotkeyTarget {
 
 // The settings as the dialog sees them, where the key named in `refused` ("Section/Key")
 // cannot be written.
-class RefusingStore final : public SettingsStore {
-  public:
-    explicit RefusingStore(SettingsStore& store) : store_(store) {}
+struct RefusingStore final : SettingsStore {
+    explicit RefusingStore(SettingsStore& inner) : store(inner) {}
     std::string Get(std::string_view section, std::string_view key,
                     std::string_view defaultValue) const override {
-        return store_.Get(section, key, defaultValue);
+        return store.Get(section, key, defaultValue);
     }
     void Save(std::string_view section, std::string_view key, std::string_view value) override {
         if (refused == std::string(section) + "/" + std::string(key)) {
             throw Error("The setting \"" + refused + "\" could not be saved.");
         }
-        store_.Save(section, key, value);
+        store.Save(section, key, value);
     }
+    SettingsStore& store;
     std::string refused;
-
-  private:
-    SettingsStore& store_;
 };
 
 class OptionsTest : public ProgramFixture {
@@ -76,18 +72,14 @@ class OptionsTest : public ProgramFixture {
         dialog.ShowModeless(nullptr);
         SetForegroundWindow(dialog.hwnd());
     }
-    // A control of the dialog or of one of its pages.
+    // A control of the dialog or of one of its children, the pages.
     HWND Control(int id) const {
-        if (HWND found = GetDlgItem(dialog.hwnd(), id)) {
-            return found;
-        }
-        for (HWND page = GetWindow(dialog.hwnd(), GW_CHILD); page != nullptr;
+        HWND found = GetDlgItem(dialog.hwnd(), id);
+        for (HWND page = GetWindow(dialog.hwnd(), GW_CHILD); found == nullptr && page != nullptr;
              page = GetWindow(page, GW_HWNDNEXT)) {
-            if (HWND found = GetDlgItem(page, id)) {
-                return found;
-            }
+            found = GetDlgItem(page, id);
         }
-        return nullptr;
+        return found;
     }
     void Click(int id) const { ClickItem(GetParent(Control(id)), id); }
     // A user's click in a multi-select list: the item toggles and the list tells its parent.
@@ -111,6 +103,10 @@ class OptionsTest : public ProgramFixture {
         return texts;
     }
     bool Shown(int id) const { return IsWindowVisible(Control(id)) != FALSE; }
+    // Which page shows, by a list of each: drives, file types, words.
+    std::vector<bool> Pages() const {
+        return {Shown(IDC_OPTIONS_DRIVES), Shown(IDC_OPTIONS_INCLUDE), Shown(IDC_OPTIONS_WORDS)};
+    }
     std::string Setting(std::string_view key) const { return settings.Get("Index", key, "-"); }
 
     // The user's click on a check box, which turns it over.
@@ -153,18 +149,16 @@ TEST_F(OptionsTest, PagesKeysAndHelpThenOkStoresEverySettingInItsFormAndTellsThe
     EXPECT_EQ(UnnamedControls(dialog.hwnd()), std::vector<std::string>{});
     const HWND tabs = Control(IDC_OPTIONS_TABS);
     EXPECT_EQ(TabCtrl_GetCurSel(tabs), 2);
-    EXPECT_TRUE(Shown(IDC_OPTIONS_WORDS));
-    EXPECT_FALSE(Shown(IDC_OPTIONS_DRIVES));
-    EXPECT_FALSE(Shown(IDC_OPTIONS_INCLUDE));
+    EXPECT_EQ(Pages(), (std::vector<bool>{false, false, true}));
     Click(IDC_OPTIONS_HELP);
     SetFocus(tabs);
     PressKey(VK_TAB, {VK_CONTROL});
     EXPECT_EQ(dialog.CurrentPage(), 0) << "Ctrl+Tab goes round";
-    EXPECT_TRUE(Shown(IDC_OPTIONS_DRIVES));
+    EXPECT_EQ(Pages(), (std::vector<bool>{true, false, false}));
     Click(IDC_OPTIONS_HELP);
     dialog.Panel(1);
     EXPECT_EQ(TabCtrl_GetCurSel(tabs), 1);
-    EXPECT_TRUE(Shown(IDC_OPTIONS_INCLUDE));
+    EXPECT_EQ(Pages(), (std::vector<bool>{false, true, false}));
     EXPECT_EQ(GetFocus(), Control(IDC_OPTIONS_INCLUDE)) << "the list of the mode chosen";
     Click(IDC_OPTIONS_HELP);
     EXPECT_EQ(help.topics, (std::vector<int32_t>{100, 80, 90}));
@@ -214,19 +208,16 @@ TEST_F(OptionsTest, PagesKeysAndHelpThenOkStoresEverySettingInItsFormAndTellsThe
     Click(IDOK);
     EXPECT_TRUE(prompter.boxes.empty());
     EXPECT_FALSE(IsWindow(dialog.hwnd()));
+    std::string written;
+    settings.ForEach(
+        [&](const std::string& section, const std::string& key, const std::string& value) {
+            written += section == "Index" ? key + "=" + value + "\n" : "";
+        });
     // Drive2 is beyond the count: higher keys are left alone.
-    for (const auto& [key, value] : {std::pair{"Interval", "1.5"},
-                                     {"Filter", ".TXT "},
-                                     {"FilterIsInclude", "False"},
-                                     {"IncludeSystemFolders", "-1"},
-                                     {"IgnoreTempFolders", "0"},
-                                     {"AllFolders", "True"},
-                                     {"Drive0", "c:"},
-                                     {"Drive1", "d:"},
-                                     {"DriveCount", "2"},
-                                     {"Drive2", "stale"}}) {
-        EXPECT_EQ(Setting(key), value) << key;
-    }
+    EXPECT_EQ(
+        written,
+        "AllFolders=True\nDrive0=c:\nDrive1=d:\nDrive2=stale\nDriveCount=2\nFilter=.TXT \n"
+        "FilterIsInclude=False\nIgnoreTempFolders=0\nIncludeSystemFolders=-1\nInterval=1.5\n");
     EXPECT_EQ(index.Get().UpdateInterval, 2) << "the engine read the settings again";
     EXPECT_TRUE(index.Get().AllFolders);
     EXPECT_EQ(addWords, 0) << "no word changed";
@@ -235,21 +226,34 @@ TEST_F(OptionsTest, PagesKeysAndHelpThenOkStoresEverySettingInItsFormAndTellsThe
     EXPECT_FALSE(signIn.IsOn());
 }
 
-TEST_F(OptionsTest, TheAllFoldersOptionOpensAtItsBoxAndARefusedIntervalOrCancelStoresNothing) {
-    dialog.ShowAllFoldersOption();
-    dialog.ShowModeless(nullptr);
-    SetForegroundWindow(dialog.hwnd());
-    EXPECT_EQ(dialog.CurrentPage(), 0);
+TEST_F(OptionsTest, ARefusedIntervalOrAHotkeyThatCannotBeStoredOrCancelStoresNothing) {
+    std::vector<std::string> reports;
+    SetWindowErrorHandler([&](std::string_view message) { reports.emplace_back(message); });
+    store.refused = "Main/Hotkey";
+    dialog.ShowAllFoldersOption();  // before the dialog is shown
+    Open(0);
     EXPECT_EQ(GetFocus(), Control(IDC_OPTIONS_ALLFOLDERS));
 
     dialog.Panel(1);
     SetText(Control(IDC_OPTIONS_INTERVAL), "99999999999");
     Click(IDOK);
     ASSERT_EQ(prompter.boxes.size(), 1u);
-    EXPECT_NE(prompter.boxes[0].text.find("99999999999"), std::string::npos);
+    EXPECT_NE(prompter.boxes[0].text.find("\"99999999999\""), std::string::npos);
     EXPECT_EQ(dialog.CurrentPage(), 0);
     EXPECT_EQ(GetFocus(), Control(IDC_OPTIONS_INTERVAL));
-    EXPECT_EQ(Setting("Interval"), "-") << "nothing written";
+
+    EXPECT_FALSE(Ticked(IDC_OPTIONS_USEHOTKEY)) << "the fixture turns the hotkey off";
+    EXPECT_EQ(SendMessageW(Control(IDC_OPTIONS_HOTKEY), HKM_GETHOTKEY, 0, 0),
+              MAKEWORD(VK_SPACE, HOTKEYF_ALT))
+        << "the default offered";
+    Tick(IDC_OPTIONS_USEHOTKEY);
+    Tick(IDC_OPTIONS_SIGNIN);
+    SetText(Control(IDC_OPTIONS_INTERVAL), "12");
+    Click(IDOK);
+    SetWindowErrorHandler(nullptr);
+    EXPECT_EQ(reports, std::vector<std::string>{"The setting \"Main/Hotkey\" could not be saved."});
+    EXPECT_EQ(index.Get().UpdateInterval, 24);
+    EXPECT_TRUE(IsWindow(dialog.hwnd()));
 
     dialog.Panel(2);
     WhenLoopRuns([&] {
@@ -262,33 +266,12 @@ TEST_F(OptionsTest, TheAllFoldersOptionOpensAtItsBoxAndARefusedIntervalOrCancelS
     Click(IDC_OPTIONS_ADDNEW);
     Click(IDCANCEL);
     EXPECT_FALSE(IsWindow(dialog.hwnd()));
+    EXPECT_EQ(Setting("Interval"), "-") << "nothing written";
     EXPECT_EQ(Setting("DriveCount"), "2");
-    EXPECT_EQ(addWords, 0) << "Cancel does not refresh the main window";
-}
-
-TEST_F(OptionsTest, AHotkeyThatCannotBeStoredLeavesEverythingUnwrittenAndTheDialogOpen) {
-    std::vector<std::string> reports;
-    SetWindowErrorHandler([&](std::string_view message) { reports.emplace_back(message); });
-    store.refused = "Main/Hotkey";
-    Open(0);
-    EXPECT_FALSE(Ticked(IDC_OPTIONS_USEHOTKEY)) << "the fixture turns the hotkey off";
-    EXPECT_EQ(SendMessageW(Control(IDC_OPTIONS_HOTKEY), HKM_GETHOTKEY, 0, 0),
-              MAKEWORD(VK_SPACE, HOTKEYF_ALT))
-        << "the default offered";
-    Tick(IDC_OPTIONS_USEHOTKEY);
-    Tick(IDC_OPTIONS_SIGNIN);
-    SetText(Control(IDC_OPTIONS_INTERVAL), "12");
-    Click(IDOK);
-    SetWindowErrorHandler(nullptr);
-    EXPECT_EQ(reports, std::vector<std::string>{"The setting \"Main/Hotkey\" could not be saved."});
-    EXPECT_EQ(Setting("Interval"), "-");
-    EXPECT_EQ(index.Get().UpdateInterval, 24);
-    EXPECT_TRUE(IsWindow(dialog.hwnd()));
-
-    Click(IDCANCEL);
     EXPECT_EQ(settings.Get("Main", "Hotkey", "-"), "");
     EXPECT_TRUE(hotkeys.applied.empty());
     EXPECT_FALSE(signIn.IsOn());
+    EXPECT_EQ(addWords, 0) << "Cancel does not refresh the main window";
 }
 
 TEST_F(OptionsTest, AnEmptyFilterIsAskedAboutBeforeAnythingIsTakenAndYesKeepsTheSavedOne) {

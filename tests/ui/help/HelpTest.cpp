@@ -40,7 +40,8 @@ constexpr std::string_view kTwoTopics =
     "@topic 20 Setting up\n"
     "Choose drives.";
 
-TEST(ParseHelpFile, ReadsTopicsWithParagraphsHeadingsAndBulletsWhateverTheLineEnds) {
+TEST(ParseHelpFile,
+     ReadsTopicsWithParagraphsHeadingsAndBulletsWhateverTheLineEndsAndOnlyUnderValidHeaders) {
     const std::vector<HelpTopic> topics = ParseHelpFile(kTwoTopics);
     ASSERT_EQ(topics.size(), 2u);
     EXPECT_EQ(topics[0].context, 10);
@@ -69,54 +70,41 @@ TEST(ParseHelpFile, ReadsTopicsWithParagraphsHeadingsAndBulletsWhateverTheLineEn
     for (const std::string& text : {crlf, "\xEF\xBB\xBF" + crlf}) {
         EXPECT_TRUE(std::ranges::equal(ParseHelpFile(text), ParseHelpFile(kTwoTopics), same));
     }
-}
 
-TEST(ParseHelpFile, FindsNoTopicsWithoutValidHeaders) {
     EXPECT_TRUE(ParseHelpFile("").empty());
     EXPECT_TRUE(
         ParseHelpFile("Plain text\n@topics 10 Not a header\n @topic 10 Indented\n").empty());
 
     // A header without a number starts no topic, and its body goes with it.
-    const std::vector<HelpTopic> topics = ParseHelpFile(
-        "@topic Using Quorin\nlost\n@topic 12x Title\nlost too\n@topic\n@topic 30 Good\nkept\n");
-    ASSERT_EQ(topics.size(), 1u);
-    EXPECT_EQ(topics[0].context, 30);
-    EXPECT_EQ(topics[0].blocks, (std::vector<HelpBlock>{{Kind::Paragraph, "kept"}}));
+    EXPECT_TRUE(std::ranges::equal(
+        ParseHelpFile("@topic Using Quorin\nlost\n@topic 12x Title\nlost too\n@topic\n"
+                      "@topic 30 Good\nkept\n"),
+        ParseHelpFile("@topic 30 Good\nkept\n"), same));
 }
 
-TEST(HelpFile, ThePathHasOneSeparatorAndATopicIsTheFirstOfItsNumber) {
+TEST(HelpFile, ThePathHasOneSeparatorATopicIsTheFirstOfItsNumberAndAMissingOneIsExplained) {
     EXPECT_EQ(HelpFilePath("C:\\"), "C:\\qn.HLP");
     EXPECT_EQ(HelpFilePath("C:\\Quorin"), "C:\\Quorin\\qn.HLP");
     EXPECT_EQ(HelpFilePath("  C:\\Program Files\\Quorin  "), "C:\\Program Files\\Quorin\\qn.HLP");
     EXPECT_EQ(HelpFilePath(" C:\\ "), "C:\\qn.HLP");
-    const std::vector<HelpTopic> topics =
-        ParseHelpFile("@topic 10 First\n@topic 20 Other\n@topic 10 Second\n");
-    ASSERT_NE(FindHelpTopic(topics, 10), nullptr);
-    EXPECT_EQ(FindHelpTopic(topics, 10)->title, "First");
-    EXPECT_EQ(FindHelpTopic(topics, 20)->title, "Other");
-    EXPECT_EQ(FindHelpTopic(topics, 80), nullptr);
-}
 
-TEST(LoadHelpTopic, ExplainsAMissingTopicOrFileInTheTopicItself) {
     const TempFolder folder;
-    const std::string file = folder.WriteFile("qn.HLP", "@topic 10 Using Quorin\nType.\n");
-
+    const std::string file =
+        folder.WriteFile("qn.HLP", "@topic 10 Using Quorin\nType.\n@topic 10 Second\nNo.\n");
     const HelpTopic found = LoadHelpTopic(file, 10);
     EXPECT_EQ(found.title, "Using Quorin");
     EXPECT_EQ(found.blocks, (std::vector<HelpBlock>{{Kind::Paragraph, "Type."}}));
 
-    const HelpTopic missingTopic = LoadHelpTopic(file, 55);
-    EXPECT_EQ(missingTopic.title, "Help topic not found");
-    ASSERT_EQ(missingTopic.blocks.size(), 1u);
-    EXPECT_NE(missingTopic.blocks[0].text.find("no topic number 55"), std::string::npos);
-    EXPECT_NE(missingTopic.blocks[0].text.find(file), std::string::npos);
-
-    const std::string absent = JoinPath(folder.Path(), "absent.HLP");
-    const HelpTopic missingFile = LoadHelpTopic(absent, 10);
-    EXPECT_EQ(missingFile.title, "Help is not available");
-    ASSERT_EQ(missingFile.blocks.size(), 1u);
-    EXPECT_NE(missingFile.blocks[0].text.find(absent), std::string::npos);
-    EXPECT_NE(missingFile.blocks[0].text.find("could not be read"), std::string::npos);
+    for (const auto& [path, context, title, says] :
+         {std::tuple{file, 55, "Help topic not found", "no topic number 55"},
+          {JoinPath(folder.Path(), "absent.HLP"), 10, "Help is not available",
+           "could not be read"}}) {
+        const HelpTopic missing = LoadHelpTopic(path, context);
+        EXPECT_EQ(missing.title, title);
+        ASSERT_EQ(missing.blocks.size(), 1u);
+        EXPECT_NE(missing.blocks[0].text.find(says), std::string::npos);
+        EXPECT_NE(missing.blocks[0].text.find(path), std::string::npos);
+    }
 }
 
 TEST(ShippedHelpFile, HasEveryTopicTheProgramOpens) {
@@ -133,19 +121,12 @@ TEST(ShippedHelpFile, HasEveryTopicTheProgramOpens) {
     }
 }
 
-HWND Viewer() {
-    return FindWindowW(kHelpViewerClass, nullptr);
-}
-
-HWND TextBox(HWND viewer) {
-    return FindWindowExW(viewer, nullptr, MSFTEDIT_CLASS, nullptr);
-}
-
 std::string ShownText(HWND viewer) {
-    return WindowText(TextBox(viewer));
+    return WindowText(FindWindowExW(viewer, nullptr, MSFTEDIT_CLASS, nullptr));
 }
 
-bool IsBold(HWND box, LONG start, LONG end) {
+bool IsBold(HWND viewer, LONG start, LONG end) {
+    const HWND box = FindWindowExW(viewer, nullptr, MSFTEDIT_CLASS, nullptr);
     CHARRANGE range{start, end};
     SendMessageW(box, EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
     CHARFORMAT2W format{};
@@ -154,81 +135,64 @@ bool IsBold(HWND box, LONG start, LONG end) {
     return (format.dwMask & CFM_BOLD) != 0 && (format.dwEffects & CFE_BOLD) != 0;
 }
 
-class HelpViewerTest : public ::testing::Test {
-  protected:
-    void SetUp() override {
-        folder_.WriteFile("qn.HLP",
-                          "@topic 10 Using Quorin\nType a word.\n@topic 20 Setting up\n"
-                          "Choose the drives.\n");
-        help_.Setup(nullptr);
-    }
-    void TearDown() override { help_.Close(); }
-
-    TempFolder folder_;
-    ProgramHelp help_{folder_.Path()};
-};
-
-TEST_F(HelpViewerTest, OpensTheTopicWhereThePositionRecordSaysAndReusesTheWindowUntilClosed) {
-    EXPECT_EQ(help_.File(), JoinPath(folder_.Path(), "qn.HLP"));
-    help_.ShowTopic(kHelpUsingQuorin);
-    const HWND viewer = Viewer();
+TEST(HelpViewer, OpensTheTopicWhereThePositionRecordSaysAndReusesTheWindowUntilClosed) {
+    const TempFolder folder;
+    folder.WriteFile(
+        "qn.HLP",
+        "@topic 10 Using Quorin\nType a word.\n@topic 20 Setting up\nChoose the drives.\n");
+    ProgramHelp help(folder.Path());
+    help.Setup(nullptr);
+    EXPECT_EQ(help.File(), JoinPath(folder.Path(), "qn.HLP"));
+    help.ShowTopic(kHelpUsingQuorin);
+    const HWND viewer = FindWindowW(kHelpViewerClass, nullptr);
     ASSERT_NE(viewer, nullptr);
     EXPECT_TRUE(IsWindowVisible(viewer));
     EXPECT_EQ(GetWindow(viewer, GW_OWNER), nullptr);  // help outlives a hidden main window
     std::string text = ShownText(viewer);
     EXPECT_EQ(text.rfind("Using Quorin", 0), 0u) << text;
     EXPECT_NE(text.find("Type a word."), std::string::npos) << text;
-    EXPECT_TRUE(IsBold(TextBox(viewer), 0, 5));
-    EXPECT_FALSE(IsBold(TextBox(viewer), 14, 18));
+    EXPECT_TRUE(IsBold(viewer, 0, 5));
+    EXPECT_FALSE(IsBold(viewer, 14, 18));
     // 256/1024 of the screen from the left and the top, half the screen in size.
     RECT place{};
     GetWindowRect(viewer, &place);
-    const int screenWidth = GetSystemMetrics(SM_CXSCREEN);
-    const int screenHeight = GetSystemMetrics(SM_CYSCREEN);
-    EXPECT_EQ(place.left, screenWidth / 4);
-    EXPECT_EQ(place.top, screenHeight / 4);
-    EXPECT_EQ(place.right - place.left, screenWidth / 2);
-    EXPECT_EQ(place.bottom - place.top, screenHeight / 2);
+    const int width = GetSystemMetrics(SM_CXSCREEN), height = GetSystemMetrics(SM_CYSCREEN);
+    EXPECT_EQ(std::tuple(place.left, place.top, place.right, place.bottom),
+              std::tuple(width / 4, height / 4, width / 4 + width / 2, height / 4 + height / 2));
 
     SetWindowPos(viewer, nullptr, 10, 20, 400, 300, SWP_NOZORDER);
-    help_.ShowTopic(kHelpSettingUp);
-    EXPECT_EQ(Viewer(), viewer);
+    help.ShowTopic(kHelpSettingUp);
+    EXPECT_EQ(FindWindowW(kHelpViewerClass, nullptr), viewer);
     text = ShownText(viewer);
     EXPECT_NE(text.find("Choose the drives."), std::string::npos) << text;
     EXPECT_EQ(text.find("Type a word."), std::string::npos) << text;
     GetWindowRect(viewer, &place);
     EXPECT_EQ(place.left, 10);  // the user's place is kept
-    help_.ShowTopic(55);        // LoadHelpTopic's explanation, as for a missing file
+    help.ShowTopic(55);         // LoadHelpTopic's explanation, as for a missing file
     EXPECT_NE(ShownText(viewer).find("no topic number 55"), std::string::npos);
 
     SendMessageW(viewer, WM_CLOSE, 0, 0);  // the user closes it
     EXPECT_FALSE(IsWindow(viewer));
-    help_.ShowTopic(kHelpSettingUp);
-    const HWND reopened = Viewer();
+    help.ShowTopic(kHelpSettingUp);
+    const HWND reopened = FindWindowW(kHelpViewerClass, nullptr);
     ASSERT_NE(reopened, nullptr);
     EXPECT_TRUE(IsWindowVisible(reopened));
-    help_.Close();
+    help.Close();
     EXPECT_FALSE(IsWindow(reopened));
-    help_.Close();  // nothing open: nothing happens
+    help.Close();  // nothing open: nothing happens
 }
 
 TEST(HelpViewerPlace, HalfTheScreenButScaledWithTheDpiAndInsideTheWorkArea) {
-    struct Case {
-        RECT monitor;
-        RECT workArea;
-        int dpi;
-        RECT place;
-    };
-    const Case kCases[] = {
+    const std::tuple<RECT, RECT, int, RECT> cases[] = {
         {{0, 0, 1280, 800}, {0, 0, 1280, 770}, 96, {320, 200, 960, 600}},
         {{0, 0, 1920, 1080}, {0, 0, 1920, 1040}, 96, {480, 270, 1440, 810}},
         {{0, 0, 1280, 800}, {0, 0, 1280, 770}, 144, {320, 170, 1280, 770}},  // 960 x 600
         {{1280, 0, 2560, 800}, {1280, 0, 2560, 800}, 192, {1280, 0, 2560, 800}},
     };
-    for (const Case& c : kCases) {
-        const RECT place = HelpViewerPlace(HelpWindowPosition{}, c.monitor, c.workArea, c.dpi);
-        EXPECT_TRUE(EqualRect(&place, &c.place))
-            << c.dpi << " dpi: " << place.left << "," << place.top << "-" << place.right << ","
+    for (const auto& [monitor, workArea, dpi, expected] : cases) {
+        const RECT place = HelpViewerPlace(HelpWindowPosition{}, monitor, workArea, dpi);
+        EXPECT_TRUE(EqualRect(&place, &expected))
+            << dpi << " dpi: " << place.left << "," << place.top << "-" << place.right << ","
             << place.bottom;
     }
 }
