@@ -42,9 +42,11 @@ function(quorin_options target)
     endif()
 endfunction()
 
-# One CTest entry per test program; under the win build CTest runs it through Wine.
+# One CTest entry per test program; under the win build CTest runs it through Wine. DESKTOP marks a
+# program that shows windows and gives them the keys: such programs share one Wine desktop and its
+# one foreground window, so they run one at a time (beside programs without windows).
 function(quorin_test name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    cmake_parse_arguments(ARG "DESKTOP" "" "SOURCES;LIBS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     quorin_options(${name})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
@@ -54,4 +56,7 @@ function(quorin_test name)
     endif()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+    if(ARG_DESKTOP)
+        set_tests_properties(${name} PROPERTIES RESOURCE_LOCK desktop)
+    endif()
 endfunction()
