@@ -155,29 +155,22 @@ TEST_F(IconExtractorTest, GivesNothingForTypesWithoutAnIconAndABlankForIconsNotE
     EXPECT_EQ(ImageList_GetImageCount(small_.get()), 3);
 }
 
-TEST_F(IconExtractorTest, EveryRequestAddsTheSameImageToBothLists) {
-    EXPECT_EQ(extractor_.RetrieveExtIcon(".qzt"), 0);
+// A request adds the same image to each list set; the index returned is the large list's.
+TEST_F(IconExtractorTest, EveryRequestAddsTheSameImageToBothListsAndGivesTheLargeListsIndex) {
+    ctlIconExtractor smallOnly;
+    smallOnly.ImageListSmall(small_.get());
+    EXPECT_EQ(smallOnly.RetrieveExtIcon(".qzt"), 0);
+    EXPECT_FALSE(ctlIconExtractor{}.RetrieveExtIcon(".qzt"));
+    EXPECT_EQ(extractor_.RetrieveExtIcon(".qzt"), 0);  // the small list got it as 1
     EXPECT_EQ(extractor_.RetrieveExtIcon(".qzt"), 1);
     EXPECT_EQ(extractor_.RetrieveExtIcon(".q~"), 2);
 
-    ASSERT_EQ(ImageList_GetImageCount(small_.get()), 3);
+    ASSERT_EQ(ImageList_GetImageCount(small_.get()), 4);
     ASSERT_EQ(ImageList_GetImageCount(large_.get()), 3);
     EXPECT_EQ(Draw(large_, 1), Draw(large_, 0));
     for (int index = 0; index < 3; ++index) {
-        EXPECT_EQ(Draw(small_, index), Draw(large_, index));
+        EXPECT_EQ(Draw(small_, index + 1), Draw(large_, index));
     }
-}
-
-TEST_F(IconExtractorTest, ReturnsTheIndexOfTheListSetAsLarge) {
-    ctlIconExtractor smallOnly;
-    smallOnly.ImageListSmall(small_.get());
-    ctlIconExtractor unset;
-
-    EXPECT_EQ(smallOnly.RetrieveExtIcon(".qzt"), 0);
-    EXPECT_EQ(extractor_.RetrieveExtIcon(".qzt"), 0);  // the small list got it as 1
-    EXPECT_EQ(ImageList_GetImageCount(small_.get()), 2);
-    EXPECT_EQ(ImageList_GetImageCount(large_.get()), 1);
-    EXPECT_FALSE(unset.RetrieveExtIcon(".qzt"));
 }
 
 }  // namespace
