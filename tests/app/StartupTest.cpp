@@ -83,28 +83,26 @@ TEST_F(StartupTest, AnsweringYesBuildsTheIndexBehindTheConnectedShownWindow) {
     EXPECT_EQ(index.Get().LastUpdated, clock.now);
 }
 
-TEST_F(StartupTest, TheSessionEndingDuringTheFirstBuildEndsTheProgramAfterIt) {
-    prompter.answers = {PromptAnswer::Yes};
-    events.onEvents = [&] {
-        if (unloads == 0 && startup->MainForm()->hwnd() != nullptr) {
-            SendMessageW(startup->MainForm()->hwnd(), WM_ENDSESSION, TRUE, 0);
-            EXPECT_TRUE(index.Exists());
-        }
-    };
-    EXPECT_FALSE(RunMain());
-    EXPECT_EQ(unloads, 1);
-    EXPECT_FALSE(index.Exists());
-    EXPECT_FALSE(IndexFileExists());
-}
-
-TEST_F(StartupTest, CancellingTheFirstBuildEndsTheProgram) {
-    prompter.answers = {PromptAnswer::Yes};
-    events.onEvents = [&] { index.Get().Cancel(); };
-    EXPECT_FALSE(RunMain());
-    ASSERT_EQ(prompter.boxes.size(), 2u);
-    EXPECT_EQ(prompter.boxes[1].title, "Update Index Cancelled");
-    EXPECT_EQ(unloads, 1);
-    EXPECT_FALSE(IndexFileExists());
+// The first build stopped by the session's end (the engine kept until the build returns) or by
+// Cancel: either way the program ends after it, with no index written.
+TEST_F(StartupTest, TheSessionEndingOrACancelDuringTheFirstBuildEndsTheProgramAfterIt) {
+    for (const bool sessionEnds : {true, false}) {
+        prompter.answers = {PromptAnswer::Yes};
+        const int before = unloads;
+        events.onEvents = [&] {
+            if (!sessionEnds) {
+                index.Get().Cancel();
+            } else if (unloads == before && startup->MainForm()->hwnd() != nullptr) {
+                SendMessageW(startup->MainForm()->hwnd(), WM_ENDSESSION, TRUE, 0);
+                EXPECT_TRUE(index.Exists());
+            }
+        };
+        EXPECT_FALSE(RunMain()) << sessionEnds;
+        EXPECT_EQ(unloads, before + 1);
+        EXPECT_FALSE(IndexFileExists());
+        EXPECT_EQ(prompter.boxes.back().title, "Update Index Cancelled");
+    }
+    EXPECT_FALSE(index.Exists()) << "the cancelled build's engine is gone too";
 }
 
 TEST_F(StartupTest, ABadSettingEndsTheProgramWithOneMessageAndWritesNothing) {

@@ -53,15 +53,12 @@ void ExpectInside(HWND window, const std::string& what) {
         << what << " at " << WindowDpi(window) << " dpi";
 }
 
-class MainLayoutTest : public MainWindowTest {};
-
-TEST_F(MainLayoutTest, EveryPanelAndTheProgressOfABuild) {
+TEST_F(MainWindowTest, EveryPanelAndTheProgressOfABuild) {
     tree.WriteFile("sub\\plan.txt", "x");
     Load().Show();
-    static const char* const kNames[] = {"Go", "Index", "Options", "Help"};
     for (int tab = kGoPanel; tab <= kHelpPanel; ++tab) {
         ClickTab(tab);
-        ExpectInside(Window(), std::string("main window, ") + kNames[tab]);
+        ExpectInside(Window(), "main window, " + Text(kIdTab + tab));
     }
     // What the Exit tab shows while the program unloads.
     ShowWindow(GetDlgItem(Window(), kIdPanel + int{kExitPanel}), SW_SHOW);
@@ -119,11 +116,10 @@ TEST_F(ProgramFixture, OptionsAtEachPageAndAddNewWord) {
                             return std::vector<std::string>{".doc", ".txt"};
                         },
                         [] {}, nullptr, nullptr, nullptr}};
-    static const char* const kPages[] = {"General", "File Types", "Words"};
     for (int page = kOptionsGeneral; page <= kOptionsWords; ++page) {
         dialog.Panel(page);
         dialog.ShowModeless(nullptr);
-        ExpectInside(dialog.hwnd(), std::string("Options, ") + kPages[page]);
+        ExpectInside(dialog.hwnd(), "Options, page " + std::to_string(page + 1));
     }
     frmNewWord newWord{NewWordServices{index.Get(), prompter, files, nullptr}};
     newWord.ShowModeless(nullptr);

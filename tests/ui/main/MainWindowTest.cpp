@@ -34,21 +34,18 @@ RECT ScreenRect(HWND window) {
     return rect;
 }
 
-int Twips(int pixels, HWND window) {
-    return PixelsToTwips(pixels, WindowDpi(window));
-}
-
 TEST_F(MainWindowTest, LoadsHiddenWithTabsPanelsAndEveryText) {
     Load();
     EXPECT_EQ(UnnamedControls(Window()), std::vector<std::string>{}) << "a reader names each";
     EXPECT_FALSE(IsWindowVisible(Window()));
     EXPECT_EQ(WindowText(Window()), "Quorin");
+    const int dpi = WindowDpi(Window());
     RECT client{};
     GetClientRect(Window(), &client);
-    EXPECT_EQ(Twips(client.right, Window()), 5310);
+    EXPECT_EQ(PixelsToTwips(client.right, dpi), 5310);
     RECT counter = ScreenRect(Control(kIdCounter));  // on the progress panel
     MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&counter), 2);
-    EXPECT_EQ(client.bottom - counter.bottom, TwipsToPixels(90, WindowDpi(Window())))
+    EXPECT_EQ(client.bottom - counter.bottom, TwipsToPixels(90, dpi))
         << "the lowest control, 90 twips above the bottom edge";
 
     RECT previous = ScreenRect(Control(kIdTab));
@@ -58,7 +55,7 @@ TEST_F(MainWindowTest, LoadsHiddenWithTabsPanelsAndEveryText) {
         previous = tab;
     }
     EXPECT_EQ(Window::RectInParent(Control(kIdTab + 4)).right,
-              client.right - TwipsToPixels(60, WindowDpi(Window())))
+              client.right - TwipsToPixels(60, dpi))
         << "60 twips from the right edge";
 
     EXPECT_EQ(PanelsShown(), (std::vector<bool>{true, false, false, false, false, false}));
@@ -80,7 +77,7 @@ TEST_F(MainWindowTest, LoadsHiddenWithTabsPanelsAndEveryText) {
         EXPECT_EQ(ChildTexts(panel), panelTexts[i]) << "panel " << i;
         const RECT place = Window::RectInParent(panel);
         EXPECT_EQ(place.left, 0);
-        EXPECT_EQ(Twips(place.top, Window()), 240);
+        EXPECT_EQ(PixelsToTwips(place.top, dpi), 240);
     }
 
     const TrayRecord& record = tray.Record();

@@ -19,15 +19,13 @@ TEST(MatchesLayoutTest, GrowsTheWidthFirstThenTheHeight) {
     EXPECT_FALSE(MatchesMinimumFix({3000, 3000}));
     EXPECT_FALSE(MatchesMinimumFix({9000, 7000}));
 
-    const std::optional<TwipsSize> narrow = MatchesMinimumFix({2999, 100});
-    ASSERT_TRUE(narrow);
-    EXPECT_EQ(narrow->width, 3000);
-    EXPECT_EQ(narrow->height, 100);  // left to the resize the width change brings
-
-    const std::optional<TwipsSize> low = MatchesMinimumFix({4500, 2999});
-    ASSERT_TRUE(low);
-    EXPECT_EQ(low->width, 4500);
-    EXPECT_EQ(low->height, 3000);
+    // A narrow window's height is left to the resize the width change brings.
+    for (const auto& [size, fixed] : {std::pair<TwipsSize, TwipsSize>{{2999, 100}, {3000, 100}},
+                                      {{4500, 2999}, {4500, 3000}}}) {
+        const std::optional<TwipsSize> fix = MatchesMinimumFix(size);
+        ASSERT_TRUE(fix);
+        EXPECT_EQ(std::pair(fix->width, fix->height), std::pair(fixed.width, fixed.height));
+    }
 }
 
 TEST(MatchesLayoutTest, AtTheSmallestSizeNothingOverlaps) {
