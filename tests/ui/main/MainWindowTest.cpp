@@ -89,25 +89,53 @@ TEST_F(MainWindowTest, LoadsHiddenWithTabsPanelsAndEveryText) {
         << "added at load, and again when Explorer restarts";
 }
 
+// The build is below the session-end handler on the stack: the engine must outlive it.
 TEST_F(MainWindowTest, ExitTabAndSessionEndUnloadSavingThePositionAndRemovingTheEngine) {
+    tree.WriteFile("docs/a.txt", "a");
     Load();
-    SetWindowPos(Window(), nullptr, 150, 90, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     HWND window = Window();
-    index.Get();
-    SendMessageW(Window(), WM_ENDSESSION, FALSE, 0);
+    SetWindowPos(window, nullptr, 150, 90, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    SendMessageW(window, WM_ENDSESSION, FALSE, 0);
     EXPECT_EQ(unloads, 0) << "another program kept the session going";
-    ClickTab(4);
+    bool engineKept = false;
+    int unloadsDuringBuild = -1;
+    std::string placeSavedAtOnce;
+    events.onEvents = [&] {
+        if (unloadsDuringBuild < 0) {
+            SendMessageW(window, WM_ENDSESSION, TRUE, 0);
+            engineKept = index.Exists() && index.Get().Indexing();
+            unloadsDuringBuild = unloads;
+            placeSavedAtOnce = settings.Get("Main", "StartX", "");
+        }
+    };
+    Build();
+    EXPECT_TRUE(engineKept);
+    EXPECT_EQ(unloadsDuringBuild, 0);
+    EXPECT_EQ(placeSavedAtOnce, std::to_string(PixelsToTwips(150, ScreenDpi())))
+        << "the process may end before the build returns";
+    ASSERT_EQ(prompter.boxes.size(), 1u);
+    EXPECT_EQ(prompter.boxes[0].title, "Update Index Cancelled");
     EXPECT_EQ(unloads, 1);
     EXPECT_FALSE(IsWindow(window));
-    ASSERT_FALSE(trayCalls.empty());
+    EXPECT_FALSE(index.Exists());
+    EXPECT_FALSE(std::filesystem::exists(JoinPath(program.Path(), "index.txt")));
+
+    events.onEvents = nullptr;
+    Load();
+    window = Window();
+    SetWindowPos(window, nullptr, 200, 120, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    index.Get();
+    ClickTab(4);
+    EXPECT_EQ(unloads, 2);
+    EXPECT_FALSE(IsWindow(window));
     EXPECT_EQ(trayCalls.back(), std::make_pair(DWORD{NIM_DELETE}, window));
     EXPECT_FALSE(index.Exists());
-    EXPECT_EQ(settings.Get("Main", "StartX", ""), std::to_string(PixelsToTwips(150, ScreenDpi())));
-    EXPECT_EQ(settings.Get("Main", "StartY", ""), std::to_string(PixelsToTwips(90, ScreenDpi())));
+    EXPECT_EQ(settings.Get("Main", "StartX", ""), std::to_string(PixelsToTwips(200, ScreenDpi())));
+    EXPECT_EQ(settings.Get("Main", "StartY", ""), std::to_string(PixelsToTwips(120, ScreenDpi())));
 
     Load();
     SendMessageW(Window(), WM_ENDSESSION, TRUE, 0);
-    EXPECT_EQ(unloads, 2) << "the session ending while idle unloads at once";
+    EXPECT_EQ(unloads, 3) << "the session ending while idle unloads at once";
 }
 
 // Each change of the main window's visibility and state, in order: visible, minimised.
@@ -374,36 +402,6 @@ TEST_F(MainWindowTest, AnIndexThatCannotBeSavedIsToldOnceAndBuiltAgainOnlyAfterA
     EXPECT_EQ(reports.size(), 2u);
 }
 
-// The build is below the handler on the stack: the engine must outlive it.
-TEST_F(MainWindowTest, TheSessionEndingDuringABuildCancelsItAndUnloadsOnlyAfterIt) {
-    tree.WriteFile("docs/a.txt", "a");
-    Load();
-    const HWND window = Window();
-    SetWindowPos(window, nullptr, 150, 90, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    bool engineKept = false;
-    int unloadsDuringBuild = -1;
-    std::string placeSavedAtOnce;
-    events.onEvents = [&] {
-        if (unloadsDuringBuild < 0) {
-            SendMessageW(window, WM_ENDSESSION, TRUE, 0);
-            engineKept = index.Exists() && index.Get().Indexing();
-            unloadsDuringBuild = unloads;
-            placeSavedAtOnce = settings.Get("Main", "StartX", "");
-        }
-    };
-    Build();
-    EXPECT_TRUE(engineKept);
-    EXPECT_EQ(unloadsDuringBuild, 0);
-    EXPECT_EQ(placeSavedAtOnce, std::to_string(PixelsToTwips(150, ScreenDpi())))
-        << "the process may end before the build returns";
-    ASSERT_EQ(prompter.boxes.size(), 1u);
-    EXPECT_EQ(prompter.boxes[0].title, "Update Index Cancelled");
-    EXPECT_EQ(unloads, 1);
-    EXPECT_FALSE(IsWindow(window));
-    EXPECT_FALSE(index.Exists());
-    EXPECT_FALSE(std::filesystem::exists(JoinPath(program.Path(), "index.txt")));
-}
-
 TEST_F(MainWindowTest, GoCarriesOutEachActionInTheWindow) {
     tree.WriteFile("notes.txt", "n");
     tree.WriteFile("alpha1.doc", "a");
@@ -464,15 +462,15 @@ class CompletionTest : public MainWindowTest {
   protected:
     void SetUp() override { Load(); }
     HWND Edit() const { return GetWindow(Control(kIdWord), GW_CHILD); }
+    // Characters as typed; '\b' is Backspace, '\x7f' Delete (a key without a character).
     void Type(std::string_view keys) {
         for (const char key : keys) {
-            SendMessageW(Edit(), WM_CHAR, static_cast<WPARAM>(key), 0);
-        }
-    }
-    void Press(WPARAM key) {
-        SendMessageW(Edit(), WM_KEYDOWN, key, 0);
-        if (key == VK_BACK) {
-            SendMessageW(Edit(), WM_CHAR, L'\b', 0);
+            if (key == '\b' || key == '\x7f') {
+                SendMessageW(Edit(), WM_KEYDOWN, key == '\b' ? VK_BACK : VK_DELETE, 0);
+            }
+            if (key != '\x7f') {
+                SendMessageW(Edit(), WM_CHAR, static_cast<WPARAM>(key), 0);
+            }
         }
     }
     // The text with the selection marked: "No[tepad]".
@@ -495,16 +493,15 @@ TEST_F(CompletionTest, TypingCompletesWithTheTopEntryAndFocusSelectsAllInTooltip
     }
     form->AddWords();
     SetWord("");
-    Type("n");
-    EXPECT_EQ(Shown(), "N[otes]") << "the entry's capitalisation, the entry nearer the top";
-    Type("o");
-    EXPECT_EQ(Shown(), "No[tes]");
-    Press(VK_BACK);
-    EXPECT_EQ(Shown(), "No[]");
-    Type("t");
-    EXPECT_EQ(Shown(), "Not[es]") << "a further letter completes again";
-    Press(VK_DELETE);
-    EXPECT_EQ(Shown(), "Not[]");
+    // The entry's capitalisation, the entry nearer the top; a further letter completes again.
+    for (const auto& [keys, shown] : {std::pair{"n", "N[otes]"},
+                                      {"o", "No[tes]"},
+                                      {"\b", "No[]"},
+                                      {"t", "Not[es]"},
+                                      {"\x7f", "Not[]"}}) {
+        Type(keys);
+        EXPECT_EQ(Shown(), shown) << "after " << keys;
+    }
     SetWord("");
     Type("xy");
     EXPECT_EQ(Shown(), "xy[]");

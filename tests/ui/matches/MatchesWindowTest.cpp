@@ -92,9 +92,8 @@ int TextHeight(HWND control) {
     const HDC dc = GetDC(control);
     const HGDIOBJ old =
         SelectObject(dc, reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0)));
-    wchar_t text[200] = {};
-    GetWindowTextW(control, text, 200);
-    DrawTextW(dc, text, -1, &area, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+    DrawTextW(dc, Widen(WindowText(control)).c_str(), -1, &area,
+              DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
     SelectObject(dc, old);
     ReleaseDC(control, dc);
     return area.bottom - area.top;
