@@ -89,7 +89,7 @@ class IconExtractorTest : public ::testing::Test {
 };
 
 // A file's type is its last four characters, and only a lower-case ".exe" is a program with its
-// own icon.
+// own icon; a type without one gets nothing, an icon not extracted a blank.
 TEST_F(IconExtractorTest, FollowsExtensionFileTypeAndDefaultIconOfTheLastFourCharacters) {
     const Picture expected = IconOf(SystemFile("shell32.dll"), -152);
     ASSERT_FALSE(IsBlank(expected));
@@ -111,6 +111,19 @@ TEST_F(IconExtractorTest, FollowsExtensionFileTypeAndDefaultIconOfTheLastFourCha
     const Picture upper = DrawLarge(extractor_.RetrieveFileIcon("NOTEPAD.EXE", system));
     EXPECT_EQ(upper, DrawLarge(extractor_.RetrieveExtIcon(".EXE")));
     EXPECT_NE(upper, own);
+
+    const int images = ImageList_GetImageCount(large_.get());
+    EXPECT_FALSE(extractor_.RetrieveExtIcon(".qzunregistered"));
+    EXPECT_FALSE(extractor_.RetrieveExtIcon(".qzn"));
+    EXPECT_FALSE(extractor_.RetrieveFileIcon("readme", "C:\\"));
+    EXPECT_EQ(ImageList_GetImageCount(large_.get()), images);
+    const std::optional<int> self = extractor_.RetrieveExtIcon(".qz1");
+    ASSERT_TRUE(self);
+    EXPECT_TRUE(IsBlank(Draw(large_, *self)));
+    const Picture missingFile = IconOf("C:\\nowhere\\none.dll", 0);
+    ASSERT_FALSE(missingFile.empty());
+    EXPECT_TRUE(IsBlank(missingFile));
+    EXPECT_EQ(IconOf(SystemFile("shell32.dll"), 99999), missingFile);
 }
 
 TEST_F(IconExtractorTest, ReadsPathAndIndexFromTheIconLocation) {
@@ -136,23 +149,6 @@ TEST_F(IconExtractorTest, ReadsPathAndIndexFromTheIconLocation) {
         EXPECT_EQ(filePath, c.path) << c.location;
         EXPECT_EQ(iconIndex, c.index) << c.location;
     }
-}
-
-// A type without an icon gets no image; one whose icon cannot be extracted gets a blank one.
-TEST_F(IconExtractorTest, GivesNothingForTypesWithoutAnIconAndABlankForIconsNotExtracted) {
-    EXPECT_FALSE(extractor_.RetrieveExtIcon(".qzunregistered"));
-    EXPECT_FALSE(extractor_.RetrieveExtIcon(".qzn"));
-    EXPECT_FALSE(extractor_.RetrieveFileIcon("readme", "C:\\"));
-    EXPECT_EQ(ImageList_GetImageCount(large_.get()), 0);
-
-    const std::optional<int> self = extractor_.RetrieveExtIcon(".qz1");
-    ASSERT_TRUE(self);
-    EXPECT_TRUE(IsBlank(Draw(large_, *self)));
-    const Picture missingFile = IconOf("C:\\nowhere\\none.dll", 0);
-    ASSERT_FALSE(missingFile.empty());
-    EXPECT_TRUE(IsBlank(missingFile));
-    EXPECT_EQ(IconOf(SystemFile("shell32.dll"), 99999), missingFile);
-    EXPECT_EQ(ImageList_GetImageCount(small_.get()), 3);
 }
 
 // A request adds the same image to each list set; the index returned is the large list's.
