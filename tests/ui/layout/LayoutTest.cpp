@@ -76,7 +76,7 @@ TEST_F(MainWindowTest, EveryPanelAndTheProgressOfABuild) {
     EXPECT_TRUE(checked);
 }
 
-TEST_F(ProgramFixture, MatchesAtItsDesignedAndMinimumSizes) {
+TEST_F(ProgramFixture, MatchesAtItsDesignedAndMinimumSizesHelpAndSplash) {
     frmMatches& form = frmMatches::Load({index.Get(), shell, settings, prompter, [] {}, nullptr});
     form.Word("plan");
     form.Show();
@@ -84,6 +84,14 @@ TEST_F(ProgramFixture, MatchesAtItsDesignedAndMinimumSizes) {
     SetWindowPos(form.hwnd(), nullptr, 0, 0, 10, 10, SWP_NOMOVE | SWP_NOZORDER);
     ExpectInside(form.hwnd(), "Matches, minimum size");
     DestroyWindow(form.hwnd());
+
+    HelpViewer helpWindow;
+    helpWindow.ShowTopic({10, "Using Quorin", {{HelpBlockKind::Paragraph, "Type a word."}}},
+                         {100, 100, 740, 500});
+    ExpectInside(FindWindowW(kHelpViewerClass, nullptr), "help window");
+    frmSplash splash;
+    splash.Show();
+    ExpectInside(FindWindowW(kSplashClass, nullptr), "splash");
 }
 
 TEST_F(ProgramFixture, WizardAtEachPageAndItsProgress) {
@@ -124,16 +132,6 @@ TEST_F(ProgramFixture, OptionsAtEachPageAndAddNewWord) {
     frmNewWord newWord{NewWordServices{index.Get(), prompter, files, nullptr}};
     newWord.ShowModeless(nullptr);
     ExpectInside(newWord.hwnd(), "Add New Word");
-}
-
-TEST(Layout, HelpWindowAndSplash) {
-    HelpViewer help;
-    help.ShowTopic({10, "Using Quorin", {{HelpBlockKind::Paragraph, "Type a word."}}},
-                   {100, 100, 740, 500});
-    ExpectInside(FindWindowW(kHelpViewerClass, nullptr), "help window");
-    frmSplash splash;
-    splash.Show();
-    ExpectInside(FindWindowW(kSplashClass, nullptr), "splash");
 }
 
 }  // namespace

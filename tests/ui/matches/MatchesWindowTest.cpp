@@ -144,7 +144,10 @@ class MatchesWindowTest : public ::testing::Test {
     int wordListRefreshes_ = 0;
 };
 
-TEST_F(MatchesWindowTest, ListsTheMatchesInCollectionOrderWithTheFirstSelected) {
+// The matches in collection order, the first selected. The word goes to the match at the selected
+// row's position in the collection, in the folder the row showed even after a rebuild has numbered
+// the folders anew; the row's own file opens.
+TEST_F(MatchesWindowTest, ListsTheMatchesAndTheWordGoesToTheRowsPositionWhileTheRowsOwnFileOpens) {
     const HWND form = Load();
     const HWND list = List(form);
     EXPECT_EQ(UnnamedControls(form), std::vector<std::string>{}) << "a reader names each";
@@ -176,22 +179,16 @@ TEST_F(MatchesWindowTest, ListsTheMatchesInCollectionOrderWithTheFirstSelected) 
         EXPECT_EQ(GetNextDlgTabItem(form, ring[i], FALSE), ring[i + 1]) << i;
     }
     EXPECT_TRUE(prompter_.boxes.empty());
-    DestroyWindow(form);
-}
 
-// The word goes to the match at the selected row's position in the collection, in the folder the
-// row showed even after a rebuild has numbered the folders anew; the row's own file opens.
-TEST_F(MatchesWindowTest, AssociationGoesToTheRowsPositionWhileTheRowsOwnFileOpens) {
-    const HWND plain = Load();
-    SelectRow(List(plain), 1);
-    test::ClickItem(plain, kMatchesOpenId);  // the box is clear: nothing is assigned
+    SelectRow(list, 1);
+    test::ClickItem(form, kMatchesOpenId);  // the box is clear: nothing is assigned
     EXPECT_EQ(index_->Words().Count(), 0);
     EXPECT_EQ(wordListRefreshes_, 0);
-    EXPECT_FALSE(IsWindow(plain));
+    EXPECT_FALSE(IsWindow(form));
 
-    const HWND form = Load();
-    ClickColumn(List(form), 0);  // the first click on Name sorts descending: plan a.qzx last
-    const TempFolder drive;      // the rebuild makes C:\Music, folder 2 when filled, folder 1
+    const HWND associated = Load();
+    ClickColumn(List(associated), 0);  // the first click on Name sorts descending: plan a.qzx last
+    const TempFolder drive;            // the rebuild makes C:\Music, folder 2 when filled, folder 1
     drive.MakeFolder("Sub");
     settings_.Save("Index", "DriveCount", "2");
     settings_.Save("Index", "Drive0", drive.Path());
@@ -200,9 +197,9 @@ TEST_F(MatchesWindowTest, AssociationGoesToTheRowsPositionWhileTheRowsOwnFileOpe
     SilentBuildProgress progress;
     index_->CreateIndex(true, progress);
     ASSERT_EQ(index_->GetDirectory("C:\\Music"), 1);
-    SelectRow(List(form), 2);
-    Button_SetCheck(GetDlgItem(form, kMatchesAssociateId), BST_CHECKED);
-    test::ClickItem(form, kMatchesOpenId);
+    SelectRow(List(associated), 2);
+    Button_SetCheck(GetDlgItem(associated, kMatchesAssociateId), BST_CHECKED);
+    test::ClickItem(associated, kMatchesOpenId);
 
     ASSERT_EQ(shell_.opened.size(), 2u);
     for (const test::RecordingShell::Opened& call : shell_.opened) {
@@ -217,7 +214,7 @@ TEST_F(MatchesWindowTest, AssociationGoesToTheRowsPositionWhileTheRowsOwnFileOpe
     EXPECT_EQ(assigned->Filename, "Plans.exe");
     EXPECT_EQ(index_->GetPath(assigned->Directory), "C:\\Music");
     EXPECT_EQ(wordListRefreshes_, 1);
-    EXPECT_FALSE(IsWindow(form));
+    EXPECT_FALSE(IsWindow(associated));
 }
 
 // A double click, Enter on a row found by typing, and Enter through the dialog manager all open
