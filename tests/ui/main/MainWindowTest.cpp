@@ -221,6 +221,19 @@ TEST_F(MainWindowTest, EveryWayDownHidesAndEveryWayUpBringsTheWindowInFrontInPla
     }
     EXPECT_EQ(unloads, 0) << "each only hides";
 
+    // The hotkey puts a window in front away, and brings it back on Go with the word selected.
+    ClickTab(kHelpPanel);
+    SetWord("notes");
+    SendMessageW(Window(), WM_HOTKEY, GlobalHotkey::kId, 0);
+    EXPECT_FALSE(IsWindowVisible(Window()));
+    SendMessageW(Window(), WM_HOTKEY, GlobalHotkey::kId + 1, 0);
+    EXPECT_FALSE(IsWindowVisible(Window())) << "not our hotkey";
+    SendMessageW(Window(), WM_HOTKEY, GlobalHotkey::kId, 0);
+    EXPECT_EQ(form->CurrentTab(), kGoPanel);
+    EXPECT_EQ(PanelsShown(), (std::vector<bool>{true, false, false, false, false, false}));
+    EXPECT_EQ(SendMessageW(Control(kIdWord), CB_GETEDITSEL, 0, 0), MAKELRESULT(0, 5))
+        << "the whole word, ready to be typed over";
+
     SetWindowPos(Window(), nullptr, 300, 140, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     SendMessageW(Window(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
     EXPECT_FALSE(IsWindowVisible(Window()));
