@@ -463,23 +463,22 @@ TEST_F(MainWindowTest, GoCarriesOutEachActionInTheWindow) {
     EXPECT_EQ(form->RememberedPosition().y, PixelsToTwips(170, dpi));
 }
 
-class CompletionTest : public MainWindowTest {
-  protected:
-    void SetUp() override { Load(); }
-    HWND Edit() const { return GetWindow(Control(kIdWord), GW_CHILD); }
+TEST_F(MainWindowTest, TypingCompletesWithTheTopEntryAndFocusSelectsAllInTooltipColours) {
+    Load();
+    const HWND edit = GetWindow(Control(kIdWord), GW_CHILD);
     // Characters as typed; '\b' is Backspace, '\x7f' Delete (a key without a character).
-    void Type(std::string_view keys) {
+    const auto type = [edit](std::string_view keys) {
         for (const char key : keys) {
             if (key == '\b' || key == '\x7f') {
-                SendMessageW(Edit(), WM_KEYDOWN, key == '\b' ? VK_BACK : VK_DELETE, 0);
+                SendMessageW(edit, WM_KEYDOWN, key == '\b' ? VK_BACK : VK_DELETE, 0);
             }
             if (key != '\x7f') {
-                SendMessageW(Edit(), WM_CHAR, static_cast<WPARAM>(key), 0);
+                SendMessageW(edit, WM_CHAR, static_cast<WPARAM>(key), 0);
             }
         }
-    }
+    };
     // The text with the selection marked: "No[tepad]".
-    std::string Shown() const {
+    const auto marked = [this] {
         DWORD start = 0;
         DWORD end = 0;
         SendMessageW(Control(kIdWord), CB_GETEDITSEL, reinterpret_cast<WPARAM>(&start),
@@ -487,12 +486,9 @@ class CompletionTest : public MainWindowTest {
         const std::string text = Text(kIdWord);
         return text.substr(0, start) + "[" + text.substr(start, end - start) + "]" +
                text.substr(end);
-    }
-};
-
-TEST_F(CompletionTest, TypingCompletesWithTheTopEntryAndFocusSelectsAllInTooltipColours) {
-    Type("no");
-    EXPECT_EQ(Shown(), "no[]") << "an empty list never completes";
+    };
+    type("no");
+    EXPECT_EQ(marked(), "no[]") << "an empty list never completes";
     for (const char* word : {"Notes", "Notepad"}) {
         index.Get().AddWord({word, std::string(word) + ".exe", 0, {}});
     }
@@ -504,36 +500,36 @@ TEST_F(CompletionTest, TypingCompletesWithTheTopEntryAndFocusSelectsAllInTooltip
                                       {"\b", "No[]"},
                                       {"t", "Not[es]"},
                                       {"\x7f", "Not[]"}}) {
-        Type(keys);
-        EXPECT_EQ(Shown(), shown) << "after " << keys;
+        type(keys);
+        EXPECT_EQ(marked(), shown) << "after " << keys;
     }
     SetWord("");
-    Type("xy");
-    EXPECT_EQ(Shown(), "xy[]");
+    type("xy");
+    EXPECT_EQ(marked(), "xy[]");
 
     SetWord("");
-    Type("no");
+    type("no");
     index.Get().AddWord({"nothing", "nothing.exe", 0, {}});
     form->AddWords();
-    EXPECT_EQ(Shown(), "No[tes]") << "reloading the words keeps the text and its selection";
+    EXPECT_EQ(marked(), "No[tes]") << "reloading the words keeps the text and its selection";
     EXPECT_EQ(SendMessageW(Control(kIdWord), CB_GETCOUNT, 0, 0), 3);
 
     SetWord("word");
     form->Show();
     SetForegroundWindow(Window());
     SetFocus(Control(kIdWord));
-    EXPECT_EQ(Shown(), "[word]");
-    const HDC dc = GetDC(Edit());
+    EXPECT_EQ(marked(), "[word]");
+    const HDC dc = GetDC(edit);
     const auto brush = [&] {
         return SendMessageW(Control(kIdWord), WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc),
-                            reinterpret_cast<LPARAM>(Edit()));
+                            reinterpret_cast<LPARAM>(edit));
     };
     const LRESULT tooltip = reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_INFOBK));
     EXPECT_EQ(brush(), tooltip) << "the colours reach the edit field through the box and panel";
     EXPECT_EQ(GetTextColor(dc), GetSysColor(COLOR_INFOTEXT));
     SetFocus(Window());
     EXPECT_NE(brush(), tooltip) << "the window colours again";
-    ReleaseDC(Edit(), dc);
+    ReleaseDC(edit, dc);
 }
 
 }  // namespace
