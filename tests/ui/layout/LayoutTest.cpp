@@ -116,14 +116,11 @@ TEST_F(ProgramFixture, WizardAtEachPageAndItsProgress) {
 
 TEST_F(ProgramFixture, OptionsAtEachPageAndAddNewWord) {
     FakeFileChooser files;
+    const DriveSource drives{[] { return std::vector<std::string>{"c: [SYSTEM]"}; },
+                             [](const std::string&) { return 3u; }};
+    const auto extensions = [] { return std::vector<std::string>{".doc", ".txt"}; };
     frmOptions dialog{
-        OptionsServices{index.Get(), settings, prompter, help, files,
-                        DriveSource{[] { return std::vector<std::string>{"c: [SYSTEM]"}; },
-                                    [](const std::string&) { return 3u; }},
-                        [] {
-                            return std::vector<std::string>{".doc", ".txt"};
-                        },
-                        [] {}, nullptr, nullptr, nullptr}};
+        OptionsServices{index.Get(), settings, prompter, help, files, drives, extensions, [] {}}};
     for (int page = kOptionsGeneral; page <= kOptionsWords; ++page) {
         dialog.Panel(page);
         dialog.ShowModeless(nullptr);
