@@ -28,7 +28,7 @@ TEST(MatchesLayoutTest, GrowsTheWidthFirstThenTheHeight) {
     }
 }
 
-TEST(MatchesLayoutTest, AtTheSmallestSizeNothingOverlaps) {
+TEST(MatchesLayoutTest, AtTheSmallestSizeNothingOverlapsAndALongCheckBoxCaptionGoesAboveOpen) {
     const MatchesLayout smallest = ArrangeMatches({3000, 3000});
     const TwipsRect& list = smallest.lvwItems;
     EXPECT_GT(list.height, 0);
@@ -36,19 +36,17 @@ TEST(MatchesLayoutTest, AtTheSmallestSizeNothingOverlaps) {
     EXPECT_LT(smallest.chkAssociate.left + smallest.chkAssociate.width, smallest.cmdOpen.left);
     EXPECT_EQ(smallest.cmdOpen.left + smallest.cmdOpen.width, list.left + list.width);  // aligned
     EXPECT_LE(smallest.Label1.top + smallest.Label1.height, list.top);
-}
 
-// A caption of 3255 x 210 twips, on one line, does not fit beside Open: the check box goes on a
-// row of its own, two lines tall at the smallest size, one line tall where the window's width
-// holds it; the designed size keeps it beside Open.
-TEST(MatchesLayoutTest, ACheckBoxCaptionTooLongForItsPlaceTakesARowAboveOpen) {
+    // A caption of 3255 x 210 twips, on one line, does not fit beside Open: the check box goes on
+    // a row of its own, two lines tall at the smallest size, one line tall where the window's
+    // width holds it; the designed size keeps it beside Open.
     const TwipsSize caption{3255, 210};
-    const MatchesLayout smallest = ArrangeMatches({3000, 3000}, caption);
-    const TwipsRect& box = smallest.chkAssociate;
+    const MatchesLayout wrapped = ArrangeMatches({3000, 3000}, caption);
+    const TwipsRect& box = wrapped.chkAssociate;
     EXPECT_EQ(box.width, 3000 - 360);
     EXPECT_EQ(box.height, 420);
-    EXPECT_EQ(box.top + box.height, smallest.cmdOpen.top);
-    EXPECT_LT(smallest.lvwItems.top + smallest.lvwItems.height, box.top);
+    EXPECT_EQ(box.top + box.height, wrapped.cmdOpen.top);
+    EXPECT_LT(wrapped.lvwItems.top + wrapped.lvwItems.height, box.top);
 
     EXPECT_EQ(ArrangeMatches({3800, 3000}, caption).chkAssociate.height, 375);  // one line
     const MatchesLayout designed = ArrangeMatches(kMatchesDesignedSize, caption);
