@@ -65,27 +65,9 @@ TEST_F(StartupTest, AnsweringNoToTheMissingIndexEndsTheProgramAfterRecordingTheP
     EXPECT_EQ(settings.Get("Main", "Path", ""), "C:\\\\") << "a drive root doubles the separator";
 }
 
-// The start-up build yields to the user's clicks: Go, an assignment in the Matches window and a
-// message box must find the main window shown and its services connected by then.
-TEST_F(StartupTest, AnsweringYesBuildsTheIndexBehindTheConnectedShownWindow) {
-    tree.WriteFile("sub/file.txt", "x");
-    prompter.answers = {PromptAnswer::Yes};
-    std::vector<bool> readyDuringBuild;
-    events.onEvents = [&] {
-        readyDuringBuild.push_back(connected != nullptr && connected == startup->MainForm() &&
-                                   IsWindowVisible(startup->MainForm()->hwnd()));
-    };
-    EXPECT_TRUE(RunMain());
-    ASSERT_FALSE(readyDuringBuild.empty());
-    EXPECT_EQ(readyDuringBuild, std::vector<bool>(readyDuringBuild.size(), true));
-    EXPECT_TRUE(IndexFileExists());
-    EXPECT_EQ(unloads, 0);
-    EXPECT_EQ(index.Get().LastUpdated, clock.now);
-}
-
-// The first build stopped by the session's end (the engine kept until the build returns) or by
-// Cancel: either way the program ends after it, with no index written.
-TEST_F(StartupTest, TheSessionEndingOrACancelDuringTheFirstBuildEndsTheProgramAfterIt) {
+// "Missing index" answered Yes. The first build stopped by the session's end (the engine kept
+// until the build returns) or by Cancel: either way the program ends after it, with no index.
+TEST_F(StartupTest, AnsweringYesBuildsTheIndexUnlessTheSessionEndsOrACancelStopsTheProgram) {
     for (const bool sessionEnds : {true, false}) {
         prompter.answers = {PromptAnswer::Yes};
         const int before = unloads;
@@ -103,6 +85,23 @@ TEST_F(StartupTest, TheSessionEndingOrACancelDuringTheFirstBuildEndsTheProgramAf
         EXPECT_EQ(prompter.boxes.back().title, "Update Index Cancelled");
     }
     EXPECT_FALSE(index.Exists()) << "the cancelled build's engine is gone too";
+
+    // Not stopped, the build yields to the user's clicks: Go, an assignment in the Matches window
+    // and a message box must find the main window shown and its services connected by then.
+    tree.WriteFile("sub/file.txt", "x");
+    prompter.answers = {PromptAnswer::Yes};
+    connected = nullptr;
+    std::vector<bool> readyDuringBuild;
+    events.onEvents = [&] {
+        readyDuringBuild.push_back(connected != nullptr && connected == startup->MainForm() &&
+                                   IsWindowVisible(startup->MainForm()->hwnd()));
+    };
+    EXPECT_TRUE(RunMain());
+    ASSERT_FALSE(readyDuringBuild.empty());
+    EXPECT_EQ(readyDuringBuild, std::vector<bool>(readyDuringBuild.size(), true));
+    EXPECT_TRUE(IndexFileExists());
+    EXPECT_EQ(unloads, 2) << "none more";
+    EXPECT_EQ(index.Get().LastUpdated, clock.now);
 }
 
 TEST_F(StartupTest, ABadSettingEndsTheProgramWithOneMessageAndWritesNothing) {
