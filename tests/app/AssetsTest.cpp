@@ -17,7 +17,19 @@ namespace {
 // What Windows asks for from 100 % to 200 %: tray, title bar, taskbar, Start menu, Explorer.
 const std::vector<int> kCarriedSizes = {16, 20, 24, 32, 40, 48, 64, 96, 128, 256};
 
-TEST(Resources, IconsCarryAndLoadEverySizeWindowsAsksForAndTheSplashPictureIs400By170) {
+std::string VersionString(const std::vector<char>& block, const wchar_t* name) {
+    const std::wstring path = std::wstring(L"\\StringFileInfo\\040904B0\\") + name;
+    void* value = nullptr;
+    UINT length = 0;
+    if (!VerQueryValueW(block.data(), path.c_str(), &value, &length) || length == 0) {
+        return {};
+    }
+    return Narrow(static_cast<const wchar_t*>(value));
+}
+
+// The icons carry and load every size Windows asks for; the splash picture is 400 x 170; the
+// version information names the program in UTF-8 text; the search animation opens and plays.
+TEST(Assets, IconsSplashPictureVersionInformationAndAnimationAreWhatTheProgramShips) {
     for (int id : {IDI_QUORIN, IDI_INDEXING}) {
         const HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(id), RT_GROUP_ICON);
         ASSERT_NE(found, nullptr);
@@ -53,19 +65,7 @@ TEST(Resources, IconsCarryAndLoadEverySizeWindowsAsksForAndTheSplashPictureIs400
     EXPECT_EQ(std::vector<int>({bitmap.bmWidth, bitmap.bmHeight, bitmap.bmBitsPixel}),
               std::vector<int>({400, 170, 24}))
         << "the splash picture";
-}
 
-std::string VersionString(const std::vector<char>& block, const wchar_t* name) {
-    const std::wstring path = std::wstring(L"\\StringFileInfo\\040904B0\\") + name;
-    void* value = nullptr;
-    UINT length = 0;
-    if (!VerQueryValueW(block.data(), path.c_str(), &value, &length) || length == 0) {
-        return {};
-    }
-    return Narrow(static_cast<const wchar_t*>(value));
-}
-
-TEST(Resources, VersionInformationNamesTheProgramInUtf8Text) {
     wchar_t exe[MAX_PATH] = {};
     GetModuleFileNameW(nullptr, exe, MAX_PATH);
     DWORD ignored = 0;
@@ -81,9 +81,7 @@ TEST(Resources, VersionInformationNamesTheProgramInUtf8Text) {
     EXPECT_EQ(VersionString(block, L"ProductName"), "Quorin");
     EXPECT_EQ(VersionString(block, L"FileVersion"), "1.0.0");
     EXPECT_EQ(VersionString(block, L"LegalCopyright"), "\xC2\xA9 Veltaro, Inc.");
-}
 
-TEST(Assets, AnimationControlOpensAndPlaysTheSearchAnimation) {
     INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_ANIMATE_CLASS};
     ASSERT_TRUE(InitCommonControlsEx(&controls));
     const UniqueWindow player(

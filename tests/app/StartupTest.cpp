@@ -65,11 +65,32 @@ TEST_F(StartupTest, AnsweringNoToTheMissingIndexEndsTheProgramAfterRecordingTheP
     EXPECT_EQ(settings.Get("Main", "Path", ""), "C:\\\\") << "a drive root doubles the separator";
 }
 
-// The start-up build yields to the user's clicks: Go, an assignment in the Matches window and a
-// message box must find the main window shown and its services connected by then.
-TEST_F(StartupTest, AnsweringYesBuildsTheIndexBehindTheConnectedShownWindow) {
+// "Missing index" answered Yes. The first build stopped by the session's end (the engine kept
+// until the build returns) or by Cancel: either way the program ends after it, with no index.
+TEST_F(StartupTest, AnsweringYesBuildsTheIndexUnlessTheSessionEndsOrACancelStopsTheProgram) {
+    for (const bool sessionEnds : {true, false}) {
+        prompter.answers = {PromptAnswer::Yes};
+        const int before = unloads;
+        events.onEvents = [&] {
+            if (!sessionEnds) {
+                index.Get().Cancel();
+            } else if (unloads == before && startup->MainForm()->hwnd() != nullptr) {
+                SendMessageW(startup->MainForm()->hwnd(), WM_ENDSESSION, TRUE, 0);
+                EXPECT_TRUE(index.Exists());
+            }
+        };
+        EXPECT_FALSE(RunMain()) << sessionEnds;
+        EXPECT_EQ(unloads, before + 1);
+        EXPECT_FALSE(IndexFileExists());
+        EXPECT_EQ(prompter.boxes.back().title, "Update Index Cancelled");
+    }
+    EXPECT_FALSE(index.Exists()) << "the cancelled build's engine is gone too";
+
+    // Not stopped, the build yields to the user's clicks: Go, an assignment in the Matches window
+    // and a message box must find the main window shown and its services connected by then.
     tree.WriteFile("sub/file.txt", "x");
     prompter.answers = {PromptAnswer::Yes};
+    connected = nullptr;
     std::vector<bool> readyDuringBuild;
     events.onEvents = [&] {
         readyDuringBuild.push_back(connected != nullptr && connected == startup->MainForm() &&
@@ -79,32 +100,8 @@ TEST_F(StartupTest, AnsweringYesBuildsTheIndexBehindTheConnectedShownWindow) {
     ASSERT_FALSE(readyDuringBuild.empty());
     EXPECT_EQ(readyDuringBuild, std::vector<bool>(readyDuringBuild.size(), true));
     EXPECT_TRUE(IndexFileExists());
-    EXPECT_EQ(unloads, 0);
+    EXPECT_EQ(unloads, 2) << "none more";
     EXPECT_EQ(index.Get().LastUpdated, clock.now);
-}
-
-TEST_F(StartupTest, TheSessionEndingDuringTheFirstBuildEndsTheProgramAfterIt) {
-    prompter.answers = {PromptAnswer::Yes};
-    events.onEvents = [&] {
-        if (unloads == 0 && startup->MainForm()->hwnd() != nullptr) {
-            SendMessageW(startup->MainForm()->hwnd(), WM_ENDSESSION, TRUE, 0);
-            EXPECT_TRUE(index.Exists());
-        }
-    };
-    EXPECT_FALSE(RunMain());
-    EXPECT_EQ(unloads, 1);
-    EXPECT_FALSE(index.Exists());
-    EXPECT_FALSE(IndexFileExists());
-}
-
-TEST_F(StartupTest, CancellingTheFirstBuildEndsTheProgram) {
-    prompter.answers = {PromptAnswer::Yes};
-    events.onEvents = [&] { index.Get().Cancel(); };
-    EXPECT_FALSE(RunMain());
-    ASSERT_EQ(prompter.boxes.size(), 2u);
-    EXPECT_EQ(prompter.boxes[1].title, "Update Index Cancelled");
-    EXPECT_EQ(unloads, 1);
-    EXPECT_FALSE(IndexFileExists());
 }
 
 TEST_F(StartupTest, ABadSettingEndsTheProgramWithOneMessageAndWritesNothing) {

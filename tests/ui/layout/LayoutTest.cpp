@@ -53,15 +53,12 @@ void ExpectInside(HWND window, const std::string& what) {
         << what << " at " << WindowDpi(window) << " dpi";
 }
 
-class MainLayoutTest : public MainWindowTest {};
-
-TEST_F(MainLayoutTest, EveryPanelAndTheProgressOfABuild) {
+TEST_F(MainWindowTest, EveryPanelAndTheProgressOfABuild) {
     tree.WriteFile("sub\\plan.txt", "x");
     Load().Show();
-    static const char* const kNames[] = {"Go", "Index", "Options", "Help"};
     for (int tab = kGoPanel; tab <= kHelpPanel; ++tab) {
         ClickTab(tab);
-        ExpectInside(Window(), std::string("main window, ") + kNames[tab]);
+        ExpectInside(Window(), "main window, " + Text(kIdTab + tab));
     }
     // What the Exit tab shows while the program unloads.
     ShowWindow(GetDlgItem(Window(), kIdPanel + int{kExitPanel}), SW_SHOW);
@@ -79,7 +76,7 @@ TEST_F(MainLayoutTest, EveryPanelAndTheProgressOfABuild) {
     EXPECT_TRUE(checked);
 }
 
-TEST_F(ProgramFixture, MatchesAtItsDesignedAndMinimumSizes) {
+TEST_F(ProgramFixture, MatchesAtItsDesignedAndMinimumSizesHelpAndSplash) {
     frmMatches& form = frmMatches::Load({index.Get(), shell, settings, prompter, [] {}, nullptr});
     form.Word("plan");
     form.Show();
@@ -87,6 +84,14 @@ TEST_F(ProgramFixture, MatchesAtItsDesignedAndMinimumSizes) {
     SetWindowPos(form.hwnd(), nullptr, 0, 0, 10, 10, SWP_NOMOVE | SWP_NOZORDER);
     ExpectInside(form.hwnd(), "Matches, minimum size");
     DestroyWindow(form.hwnd());
+
+    HelpViewer helpWindow;
+    helpWindow.ShowTopic({10, "Using Quorin", {{HelpBlockKind::Paragraph, "Type a word."}}},
+                         {100, 100, 740, 500});
+    ExpectInside(FindWindowW(kHelpViewerClass, nullptr), "help window");
+    frmSplash splash;
+    splash.Show();
+    ExpectInside(FindWindowW(kSplashClass, nullptr), "splash");
 }
 
 TEST_F(ProgramFixture, WizardAtEachPageAndItsProgress) {
@@ -111,33 +116,19 @@ TEST_F(ProgramFixture, WizardAtEachPageAndItsProgress) {
 
 TEST_F(ProgramFixture, OptionsAtEachPageAndAddNewWord) {
     FakeFileChooser files;
+    const DriveSource drives{[] { return std::vector<std::string>{"c: [SYSTEM]"}; },
+                             [](const std::string&) { return 3u; }};
+    const auto extensions = [] { return std::vector<std::string>{".doc", ".txt"}; };
     frmOptions dialog{
-        OptionsServices{index.Get(), settings, prompter, help, files,
-                        DriveSource{[] { return std::vector<std::string>{"c: [SYSTEM]"}; },
-                                    [](const std::string&) { return 3u; }},
-                        [] {
-                            return std::vector<std::string>{".doc", ".txt"};
-                        },
-                        [] {}, nullptr, nullptr, nullptr}};
-    static const char* const kPages[] = {"General", "File Types", "Words"};
+        OptionsServices{index.Get(), settings, prompter, help, files, drives, extensions, [] {}}};
     for (int page = kOptionsGeneral; page <= kOptionsWords; ++page) {
         dialog.Panel(page);
         dialog.ShowModeless(nullptr);
-        ExpectInside(dialog.hwnd(), std::string("Options, ") + kPages[page]);
+        ExpectInside(dialog.hwnd(), "Options, page " + std::to_string(page + 1));
     }
     frmNewWord newWord{NewWordServices{index.Get(), prompter, files, nullptr}};
     newWord.ShowModeless(nullptr);
     ExpectInside(newWord.hwnd(), "Add New Word");
-}
-
-TEST(Layout, HelpWindowAndSplash) {
-    HelpViewer help;
-    help.ShowTopic({10, "Using Quorin", {{HelpBlockKind::Paragraph, "Type a word."}}},
-                   {100, 100, 740, 500});
-    ExpectInside(FindWindowW(kHelpViewerClass, nullptr), "help window");
-    frmSplash splash;
-    splash.Show();
-    ExpectInside(FindWindowW(kSplashClass, nullptr), "splash");
 }
 
 }  // namespace

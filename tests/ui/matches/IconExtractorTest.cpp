@@ -89,7 +89,7 @@ class IconExtractorTest : public ::testing::Test {
 };
 
 // A file's type is its last four characters, and only a lower-case ".exe" is a program with its
-// own icon.
+// own icon; a type without one gets nothing, an icon not extracted a blank.
 TEST_F(IconExtractorTest, FollowsExtensionFileTypeAndDefaultIconOfTheLastFourCharacters) {
     const Picture expected = IconOf(SystemFile("shell32.dll"), -152);
     ASSERT_FALSE(IsBlank(expected));
@@ -111,6 +111,19 @@ TEST_F(IconExtractorTest, FollowsExtensionFileTypeAndDefaultIconOfTheLastFourCha
     const Picture upper = DrawLarge(extractor_.RetrieveFileIcon("NOTEPAD.EXE", system));
     EXPECT_EQ(upper, DrawLarge(extractor_.RetrieveExtIcon(".EXE")));
     EXPECT_NE(upper, own);
+
+    const int images = ImageList_GetImageCount(large_.get());
+    EXPECT_FALSE(extractor_.RetrieveExtIcon(".qzunregistered"));
+    EXPECT_FALSE(extractor_.RetrieveExtIcon(".qzn"));
+    EXPECT_FALSE(extractor_.RetrieveFileIcon("readme", "C:\\"));
+    EXPECT_EQ(ImageList_GetImageCount(large_.get()), images);
+    const std::optional<int> self = extractor_.RetrieveExtIcon(".qz1");
+    ASSERT_TRUE(self);
+    EXPECT_TRUE(IsBlank(Draw(large_, *self)));
+    const Picture missingFile = IconOf("C:\\nowhere\\none.dll", 0);
+    ASSERT_FALSE(missingFile.empty());
+    EXPECT_TRUE(IsBlank(missingFile));
+    EXPECT_EQ(IconOf(SystemFile("shell32.dll"), 99999), missingFile);
 }
 
 TEST_F(IconExtractorTest, ReadsPathAndIndexFromTheIconLocation) {
@@ -138,46 +151,22 @@ TEST_F(IconExtractorTest, ReadsPathAndIndexFromTheIconLocation) {
     }
 }
 
-// A type without an icon gets no image; one whose icon cannot be extracted gets a blank one.
-TEST_F(IconExtractorTest, GivesNothingForTypesWithoutAnIconAndABlankForIconsNotExtracted) {
-    EXPECT_FALSE(extractor_.RetrieveExtIcon(".qzunregistered"));
-    EXPECT_FALSE(extractor_.RetrieveExtIcon(".qzn"));
-    EXPECT_FALSE(extractor_.RetrieveFileIcon("readme", "C:\\"));
-    EXPECT_EQ(ImageList_GetImageCount(large_.get()), 0);
-
-    const std::optional<int> self = extractor_.RetrieveExtIcon(".qz1");
-    ASSERT_TRUE(self);
-    EXPECT_TRUE(IsBlank(Draw(large_, *self)));
-    const Picture missingFile = IconOf("C:\\nowhere\\none.dll", 0);
-    ASSERT_FALSE(missingFile.empty());
-    EXPECT_TRUE(IsBlank(missingFile));
-    EXPECT_EQ(IconOf(SystemFile("shell32.dll"), 99999), missingFile);
-    EXPECT_EQ(ImageList_GetImageCount(small_.get()), 3);
-}
-
-TEST_F(IconExtractorTest, EveryRequestAddsTheSameImageToBothLists) {
-    EXPECT_EQ(extractor_.RetrieveExtIcon(".qzt"), 0);
+// A request adds the same image to each list set; the index returned is the large list's.
+TEST_F(IconExtractorTest, EveryRequestAddsTheSameImageToBothListsAndGivesTheLargeListsIndex) {
+    ctlIconExtractor smallOnly;
+    smallOnly.ImageListSmall(small_.get());
+    EXPECT_EQ(smallOnly.RetrieveExtIcon(".qzt"), 0);
+    EXPECT_FALSE(ctlIconExtractor{}.RetrieveExtIcon(".qzt"));
+    EXPECT_EQ(extractor_.RetrieveExtIcon(".qzt"), 0);  // the small list got it as 1
     EXPECT_EQ(extractor_.RetrieveExtIcon(".qzt"), 1);
     EXPECT_EQ(extractor_.RetrieveExtIcon(".q~"), 2);
 
-    ASSERT_EQ(ImageList_GetImageCount(small_.get()), 3);
+    ASSERT_EQ(ImageList_GetImageCount(small_.get()), 4);
     ASSERT_EQ(ImageList_GetImageCount(large_.get()), 3);
     EXPECT_EQ(Draw(large_, 1), Draw(large_, 0));
     for (int index = 0; index < 3; ++index) {
-        EXPECT_EQ(Draw(small_, index), Draw(large_, index));
+        EXPECT_EQ(Draw(small_, index + 1), Draw(large_, index));
     }
-}
-
-TEST_F(IconExtractorTest, ReturnsTheIndexOfTheListSetAsLarge) {
-    ctlIconExtractor smallOnly;
-    smallOnly.ImageListSmall(small_.get());
-    ctlIconExtractor unset;
-
-    EXPECT_EQ(smallOnly.RetrieveExtIcon(".qzt"), 0);
-    EXPECT_EQ(extractor_.RetrieveExtIcon(".qzt"), 0);  // the small list got it as 1
-    EXPECT_EQ(ImageList_GetImageCount(small_.get()), 2);
-    EXPECT_EQ(ImageList_GetImageCount(large_.get()), 1);
-    EXPECT_FALSE(unset.RetrieveExtIcon(".qzt"));
 }
 
 }  // namespace

@@ -19,18 +19,16 @@ TEST(MatchesLayoutTest, GrowsTheWidthFirstThenTheHeight) {
     EXPECT_FALSE(MatchesMinimumFix({3000, 3000}));
     EXPECT_FALSE(MatchesMinimumFix({9000, 7000}));
 
-    const std::optional<TwipsSize> narrow = MatchesMinimumFix({2999, 100});
-    ASSERT_TRUE(narrow);
-    EXPECT_EQ(narrow->width, 3000);
-    EXPECT_EQ(narrow->height, 100);  // left to the resize the width change brings
-
-    const std::optional<TwipsSize> low = MatchesMinimumFix({4500, 2999});
-    ASSERT_TRUE(low);
-    EXPECT_EQ(low->width, 4500);
-    EXPECT_EQ(low->height, 3000);
+    // A narrow window's height is left to the resize the width change brings.
+    for (const auto& [size, fixed] : {std::pair<TwipsSize, TwipsSize>{{2999, 100}, {3000, 100}},
+                                      {{4500, 2999}, {4500, 3000}}}) {
+        const std::optional<TwipsSize> fix = MatchesMinimumFix(size);
+        ASSERT_TRUE(fix);
+        EXPECT_EQ(std::pair(fix->width, fix->height), std::pair(fixed.width, fixed.height));
+    }
 }
 
-TEST(MatchesLayoutTest, AtTheSmallestSizeNothingOverlaps) {
+TEST(MatchesLayoutTest, AtTheSmallestSizeNothingOverlapsAndALongCheckBoxCaptionGoesAboveOpen) {
     const MatchesLayout smallest = ArrangeMatches({3000, 3000});
     const TwipsRect& list = smallest.lvwItems;
     EXPECT_GT(list.height, 0);
@@ -38,19 +36,17 @@ TEST(MatchesLayoutTest, AtTheSmallestSizeNothingOverlaps) {
     EXPECT_LT(smallest.chkAssociate.left + smallest.chkAssociate.width, smallest.cmdOpen.left);
     EXPECT_EQ(smallest.cmdOpen.left + smallest.cmdOpen.width, list.left + list.width);  // aligned
     EXPECT_LE(smallest.Label1.top + smallest.Label1.height, list.top);
-}
 
-// A caption of 3255 x 210 twips, on one line, does not fit beside Open: the check box goes on a
-// row of its own, two lines tall at the smallest size, one line tall where the window's width
-// holds it; the designed size keeps it beside Open.
-TEST(MatchesLayoutTest, ACheckBoxCaptionTooLongForItsPlaceTakesARowAboveOpen) {
+    // A caption of 3255 x 210 twips, on one line, does not fit beside Open: the check box goes on
+    // a row of its own, two lines tall at the smallest size, one line tall where the window's
+    // width holds it; the designed size keeps it beside Open.
     const TwipsSize caption{3255, 210};
-    const MatchesLayout smallest = ArrangeMatches({3000, 3000}, caption);
-    const TwipsRect& box = smallest.chkAssociate;
+    const MatchesLayout wrapped = ArrangeMatches({3000, 3000}, caption);
+    const TwipsRect& box = wrapped.chkAssociate;
     EXPECT_EQ(box.width, 3000 - 360);
     EXPECT_EQ(box.height, 420);
-    EXPECT_EQ(box.top + box.height, smallest.cmdOpen.top);
-    EXPECT_LT(smallest.lvwItems.top + smallest.lvwItems.height, box.top);
+    EXPECT_EQ(box.top + box.height, wrapped.cmdOpen.top);
+    EXPECT_LT(wrapped.lvwItems.top + wrapped.lvwItems.height, box.top);
 
     EXPECT_EQ(ArrangeMatches({3800, 3000}, caption).chkAssociate.height, 375);  // one line
     const MatchesLayout designed = ArrangeMatches(kMatchesDesignedSize, caption);

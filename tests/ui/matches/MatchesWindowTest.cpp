@@ -34,12 +34,16 @@ constexpr char kIndexFile[] =
     "2023-03-15 12:00:00\r\n 3\r\nC:\\Work\r\nC:\\Archive\r\nC:\\Music\r\n"
     " 0\r\nPlan B.qzp\r\n 1\r\nplan a.qzx\r\n 1\r\nother.txt\r\n 2\r\nPlans.exe\r\n";
 
+std::wstring Cell(HWND list, int row, int column) {
+    wchar_t text[MAX_PATH] = {};
+    ListView_GetItemText(list, row, column, text, MAX_PATH);
+    return text;
+}
+
 std::vector<std::string> Column(HWND list, int column) {
     std::vector<std::string> texts;
     for (int row = 0; row < ListView_GetItemCount(list); ++row) {
-        wchar_t text[MAX_PATH] = {};
-        ListView_GetItemText(list, row, column, text, MAX_PATH);
-        texts.push_back(Narrow(text));
+        texts.push_back(Narrow(Cell(list, row, column)));
     }
     return texts;
 }
@@ -88,9 +92,8 @@ int TextHeight(HWND control) {
     const HDC dc = GetDC(control);
     const HGDIOBJ old =
         SelectObject(dc, reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0)));
-    wchar_t text[200] = {};
-    GetWindowTextW(control, text, 200);
-    DrawTextW(dc, text, -1, &area, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+    DrawTextW(dc, Widen(WindowText(control)).c_str(), -1, &area,
+              DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
     SelectObject(dc, old);
     ReleaseDC(control, dc);
     return area.bottom - area.top;
@@ -141,7 +144,10 @@ class MatchesWindowTest : public ::testing::Test {
     int wordListRefreshes_ = 0;
 };
 
-TEST_F(MatchesWindowTest, ListsTheMatchesInCollectionOrderWithTheFirstSelected) {
+// The matches in collection order, the first selected. The word goes to the match at the selected
+// row's position in the collection, in the folder the row showed even after a rebuild has numbered
+// the folders anew; the row's own file opens.
+TEST_F(MatchesWindowTest, ListsTheMatchesAndTheWordGoesToTheRowsPositionWhileTheRowsOwnFileOpens) {
     const HWND form = Load();
     const HWND list = List(form);
     EXPECT_EQ(UnnamedControls(form), std::vector<std::string>{}) << "a reader names each";
@@ -156,9 +162,9 @@ TEST_F(MatchesWindowTest, ListsTheMatchesInCollectionOrderWithTheFirstSelected) 
 
     // Each icon is the next image of the list the rows draw from; the unknown type has a blank
     // one, so that its name lines up with the others.
-    EXPECT_EQ(RowImage(list, 0), 0);
-    EXPECT_EQ(RowImage(list, 1), 1);
-    EXPECT_EQ(RowImage(list, 2), 2);
+    for (int row = 0; row < 3; ++row) {
+        EXPECT_EQ(RowImage(list, row), row);
+    }
     EXPECT_EQ(ImageList_GetImageCount(ListView_GetImageList(list, LVSIL_SMALL)), 3);
     RECT named{};
     RECT blank{};
@@ -167,28 +173,22 @@ TEST_F(MatchesWindowTest, ListsTheMatchesInCollectionOrderWithTheFirstSelected) 
     EXPECT_EQ(blank.left, named.left);
 
     // Tab goes round the list, the check box and Open.
-    const HWND check = GetDlgItem(form, kMatchesAssociateId);
-    const HWND open = GetDlgItem(form, kMatchesOpenId);
-    EXPECT_EQ(GetNextDlgTabItem(form, list, FALSE), check);
-    EXPECT_EQ(GetNextDlgTabItem(form, check, FALSE), open);
-    EXPECT_EQ(GetNextDlgTabItem(form, open, FALSE), list);
+    const HWND ring[] = {list, GetDlgItem(form, kMatchesAssociateId),
+                         GetDlgItem(form, kMatchesOpenId), list};
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(GetNextDlgTabItem(form, ring[i], FALSE), ring[i + 1]) << i;
+    }
     EXPECT_TRUE(prompter_.boxes.empty());
-    DestroyWindow(form);
-}
 
-// The word goes to the match at the selected row's position in the collection, in the folder the
-// row showed even after a rebuild has numbered the folders anew; the row's own file opens.
-TEST_F(MatchesWindowTest, AssociationGoesToTheRowsPositionWhileTheRowsOwnFileOpens) {
-    const HWND plain = Load();
-    SelectRow(List(plain), 1);
-    test::ClickItem(plain, kMatchesOpenId);  // the box is clear: nothing is assigned
+    SelectRow(list, 1);
+    test::ClickItem(form, kMatchesOpenId);  // the box is clear: nothing is assigned
     EXPECT_EQ(index_->Words().Count(), 0);
     EXPECT_EQ(wordListRefreshes_, 0);
-    EXPECT_FALSE(IsWindow(plain));
+    EXPECT_FALSE(IsWindow(form));
 
-    const HWND form = Load();
-    ClickColumn(List(form), 0);  // the first click on Name sorts descending: plan a.qzx last
-    const TempFolder drive;      // the rebuild makes C:\Music, folder 2 when filled, folder 1
+    const HWND associated = Load();
+    ClickColumn(List(associated), 0);  // the first click on Name sorts descending: plan a.qzx last
+    const TempFolder drive;            // the rebuild makes C:\Music, folder 2 when filled, folder 1
     drive.MakeFolder("Sub");
     settings_.Save("Index", "DriveCount", "2");
     settings_.Save("Index", "Drive0", drive.Path());
@@ -197,9 +197,9 @@ TEST_F(MatchesWindowTest, AssociationGoesToTheRowsPositionWhileTheRowsOwnFileOpe
     SilentBuildProgress progress;
     index_->CreateIndex(true, progress);
     ASSERT_EQ(index_->GetDirectory("C:\\Music"), 1);
-    SelectRow(List(form), 2);
-    Button_SetCheck(GetDlgItem(form, kMatchesAssociateId), BST_CHECKED);
-    test::ClickItem(form, kMatchesOpenId);
+    SelectRow(List(associated), 2);
+    Button_SetCheck(GetDlgItem(associated, kMatchesAssociateId), BST_CHECKED);
+    test::ClickItem(associated, kMatchesOpenId);
 
     ASSERT_EQ(shell_.opened.size(), 2u);
     for (const test::RecordingShell::Opened& call : shell_.opened) {
@@ -214,7 +214,7 @@ TEST_F(MatchesWindowTest, AssociationGoesToTheRowsPositionWhileTheRowsOwnFileOpe
     EXPECT_EQ(assigned->Filename, "Plans.exe");
     EXPECT_EQ(index_->GetPath(assigned->Directory), "C:\\Music");
     EXPECT_EQ(wordListRefreshes_, 1);
-    EXPECT_FALSE(IsWindow(form));
+    EXPECT_FALSE(IsWindow(associated));
 }
 
 // A double click, Enter on a row found by typing, and Enter through the dialog manager all open
@@ -257,26 +257,42 @@ TEST_F(MatchesWindowTest, TheMouseAndTheKeysOpenTheRowAndEscapeCloses) {
 }
 
 // Where the controls go at each size is MatchesLayoutTest's, and that they stay inside the window
-// LayoutTest's; here the window keeps its place and its minimum.
-TEST_F(MatchesWindowTest, KeepsItsPlaceInTwipsAndNeverGetsSmallerThan3000) {
-    const HWND designed = Load();
+// LayoutTest's; here the window keeps its place, inside the work area, and its minimum.
+TEST_F(MatchesWindowTest, KeepsItsPlaceInTwipsInsideTheWorkAreaAndNeverSmallerThan3000) {
+    MONITORINFO monitor{sizeof monitor, {}, {}, 0};
+    GetMonitorInfoW(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    const RECT work = monitor.rcWork;
+    const HWND designed = Load();  // never saved: in the middle of the screen
     const TwipsSize size = OuterTwips(designed);
     EXPECT_NEAR(size.width, kMatchesDesignedSize.width, 15);
     EXPECT_NEAR(size.height, kMatchesDesignedSize.height, 15);
     RECT frame{};
     GetWindowRect(designed, &frame);
+    EXPECT_NEAR(frame.left - work.left, work.right - frame.right, 1);
+    EXPECT_NEAR(frame.top - work.top, work.bottom - frame.bottom, 1);
     DestroyWindow(designed);
     EXPECT_EQ(Saved("Left"), std::to_string(PixelsToTwips(frame.left, ScreenDpi())));
     EXPECT_EQ(Saved("Top"), std::to_string(PixelsToTwips(frame.top, ScreenDpi())));
     EXPECT_EQ(Saved("Width"), std::to_string(size.width));
     EXPECT_EQ(Saved("Height"), std::to_string(size.height));
 
+    // Saved partly beyond the bottom right corner, as a place saved at another DPI can be.
+    const int dpi = ScreenDpi();
+    SavePlace(std::to_string(PixelsToTwips(work.right - 100, dpi)),
+              std::to_string(PixelsToTwips(work.bottom - 50, dpi)), "6000", "4500");
+    const HWND moved = Load();
+    GetWindowRect(moved, &frame);
+    EXPECT_EQ(frame.right, work.right);
+    EXPECT_EQ(frame.bottom, work.bottom);
+    EXPECT_NEAR(OuterTwips(moved).width, 6000, 15) << "moved, not shrunk";
+    DestroyWindow(moved);
+
     // Read back rounded, as the main window reads its place.
     SavePlace("1500", "1200.4", "6000.5", "4500");
     const HWND restored = Load();
     GetWindowRect(restored, &frame);
-    EXPECT_NEAR(PixelsToTwips(frame.left, ScreenDpi()), 1500, 15);
-    EXPECT_NEAR(PixelsToTwips(frame.top, ScreenDpi()), 1200, 15);
+    EXPECT_NEAR(PixelsToTwips(frame.left, dpi), 1500, 15);
+    EXPECT_NEAR(PixelsToTwips(frame.top, dpi), 1200, 15);
     EXPECT_NEAR(OuterTwips(restored).width, 6000, 15);
     EXPECT_NEAR(OuterTwips(restored).height, 4500, 15);
 
@@ -296,32 +312,6 @@ TEST_F(MatchesWindowTest, KeepsItsPlaceInTwipsAndNeverGetsSmallerThan3000) {
     EXPECT_EQ(Saved("Width"), std::to_string(minimized.width));
     EXPECT_EQ(Saved("Height"), std::to_string(minimized.height));
     EXPECT_LT(minimized.height, 3000);
-}
-
-TEST_F(MatchesWindowTest, ComesUpInsideTheScreensWorkArea) {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &monitor);
-    const RECT work = monitor.rcWork;
-
-    const HWND centred = Load();  // never saved: in the middle of the screen
-    RECT frame{};
-    GetWindowRect(centred, &frame);
-    EXPECT_NEAR(frame.left - work.left, work.right - frame.right, 1);
-    EXPECT_NEAR(frame.top - work.top, work.bottom - frame.bottom, 1);
-    DestroyWindow(centred);
-
-    // Saved partly beyond the bottom right corner, as a place saved at another DPI can be.
-    const int dpi = ScreenDpi();
-    SavePlace(std::to_string(PixelsToTwips(work.right - 100, dpi)),
-              std::to_string(PixelsToTwips(work.bottom - 50, dpi)), "6000", "4500");
-    const HWND moved = Load();
-    GetWindowRect(moved, &frame);
-    EXPECT_EQ(frame.right, work.right);
-    EXPECT_EQ(frame.bottom, work.bottom);
-    EXPECT_NEAR(OuterTwips(moved).width, 6000, 15);
-    EXPECT_NEAR(OuterTwips(moved).height, 4500, 15);
-    DestroyWindow(moved);
 }
 
 TEST_F(MatchesWindowTest, AFailureWhileFillingIsShownAndKeepsTheRowsSoFar) {
@@ -357,11 +347,6 @@ TEST_F(MatchesWindowTest, EachColumnSortsBothWaysAsLstrcmpiWComparesAndStably) {
     EXPECT_EQ(WindowText(GetDlgItem(form, kMatchesLabelId)),
               "1000 matches found. Please choose from the following.");
     const HWND list = List(form);
-    const auto text = [list](int row, int column) {
-        wchar_t buffer[MAX_PATH] = {};
-        ListView_GetItemText(list, row, column, buffer, MAX_PATH);
-        return std::wstring(buffer);
-    };
     const struct {
         int column;
         int direction;
@@ -369,12 +354,14 @@ TEST_F(MatchesWindowTest, EachColumnSortsBothWaysAsLstrcmpiWComparesAndStably) {
     for (const auto& [column, direction] : clicks) {
         ClickColumn(list, column);
         if (column == 1 && direction == 1) {
-            EXPECT_EQ(Narrow(text(0, 0)), "report 919.qzx") << "C:\\Archive's first: stable";
+            EXPECT_EQ(Cell(list, 0, 0), L"report 919.qzx") << "C:\\Archive's first: stable";
         }
         int wrong = 0;
         for (int row = 1; row < kRows; ++row) {
             wrong +=
-                lstrcmpiW(text(row - 1, column).c_str(), text(row, column).c_str()) * direction > 0;
+                lstrcmpiW(Cell(list, row - 1, column).c_str(), Cell(list, row, column).c_str()) *
+                    direction >
+                0;
         }
         EXPECT_EQ(wrong, 0) << "column " << column << ", direction " << direction;
     }
