@@ -184,7 +184,10 @@ word_box_filled() { [ "$(word_box_ink)" -ge 30 ]; }
 # can be left inactive, so the box is clicked and emptied again until the keys arrive.
 type_word() {  # WORD
     wait_until 30 "the main window shows no word box" word_box_shown
-    for _ in 1 2 3 4 5; do
+    for try in 1 2 3 4 5; do
+        # Under load Wine's desktop can keep the X focus off the active window; keys go nowhere.
+        [ "$try" = 1 ] || xdotool windowfocus "$(xdotool search --onlyvisible --name '^Quorin$' |
+            head -1)" 2>/dev/null || true
         xdotool mousemove 620 399 click 1
         xdotool key ctrl+a BackSpace
         poll 5 word_box_empty || continue
