@@ -22,7 +22,7 @@ trap stop EXIT
 # a high-contrast scheme).
 prefix() {
     export WINEPREFIX=$work/prefix-$1${QUORIN_HIGH_CONTRAST:+-contrast}
-    bash "$here/tests/support/set_metrics.sh" "$WINEPREFIX" "$1"
+    "$here/scripts/set-metrics" "$WINEPREFIX" "$1"
     if [ "${QUORIN_HIGH_CONTRAST:-}" = 1 ]; then bash "$here/looks/high_contrast.sh" "$WINEPREFIX"; fi
 }
 

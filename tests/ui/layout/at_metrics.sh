@@ -8,7 +8,7 @@ prefix=$2
 dpi=$3
 here=$(cd "$(dirname "$0")/../../.." && pwd)
 export WINEPREFIX=$prefix
-bash "$here/tests/support/set_metrics.sh" "$prefix" "$dpi"
+"$here/scripts/set-metrics" "$prefix" "$dpi"
 # Windows left to Wine rather than to a window manager: with none on the display, Wine waits 2 s
 # for one each time a shown window goes, and the frame is Wine's own either way.
 "$here/scripts/wine-run" --prefix "$prefix" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed \

@@ -11,14 +11,26 @@
 #include "index/LazyIndex.h"
 #include "platform/MemorySettingsStore.h"
 #include "support/Fakes.h"
-#include "support/RecordingHelp.h"
 #include "support/TempFolder.h"
 #include "support/TestClock.h"
 #include "ui/MessagePump.h"
+#include "ui/help/Help.h"
 #include "ui/main/MatchesOpener.h"
 #include "ui/main/OptionsOpener.h"
 
 namespace quorin::test {
+
+// Records what the windows ask of help.
+class RecordingHelp final : public Help {
+  public:
+    void Setup(HWND newOwner) override { owner = newOwner; }
+    void ShowTopic(int32_t context) override { topics.push_back(context); }
+    void Close() override { ++closes; }
+
+    HWND owner = nullptr;
+    std::vector<int32_t> topics;
+    int closes = 0;
+};
 
 class FakeMatchesOpener final : public MatchesOpener {
   public:
