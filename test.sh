@@ -5,24 +5,32 @@
 # and CPU time go to the log: on a shared machine the CPU time tells a step grown slow.
 set -euo pipefail
 cd "$(dirname "$0")"
-times_file=$(mktemp)
-trap 'rm -f "$times_file"' EXIT
-cpu_used() {  # the CPU seconds of the steps run so far, as `times` last wrote them
+scratch=$(mktemp -d)
+trap 'jobs -p | xargs -r kill 2>/dev/null; rm -rf "$scratch"' EXIT
+cpu_used() {  # the CPU seconds of the steps run so far in this shell, as `times` wrote them
     awk 'NR == 2 { gsub(/s/, ""); split($1, u, "m"); split($2, s, "m")
-                   printf "%d", u[1] * 60 + u[2] + s[1] * 60 + s[2] }' "$times_file"
+                   printf "%d", u[1] * 60 + u[2] + s[1] * 60 + s[2] }' "$1"
 }
 step() {
-    local start=$SECONDS before
-    times >"$times_file"
-    before=$(cpu_used)
+    local start=$SECONDS before file=$scratch/times.$BASHPID
+    times >"$file"
+    before=$(cpu_used "$file")
     "$@"
-    times >"$times_file"
-    echo "== $* took $((SECONDS - start)) s, $(($(cpu_used) - before)) s of CPU" >&2
+    times >"$file"
+    echo "== $* took $((SECONDS - start)) s, $(($(cpu_used "$file") - before)) s of CPU" >&2
 }
 step scripts/install-deps
 step scripts/check-format
+# The win build keeps only about one core busy (its precompiled header and its links run alone),
+# so the native build, its tests and the fuzzing run beside it; its log is shown when it ends.
+step scripts/build win >"$scratch/win-build.log" 2>&1 &
+win_build=$!
 step scripts/build native
-step scripts/build win
 step ctest --test-dir "${QUORIN_BUILD_ROOT:-build}/native" --output-on-failure -j "$(nproc)"
 step scripts/fuzz 5
+if ! wait "$win_build"; then
+    cat "$scratch/win-build.log" >&2
+    exit 1
+fi
+tail -1 "$scratch/win-build.log" >&2
 step scripts/with-xvfb scripts/win-ctest
