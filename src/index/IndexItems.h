@@ -50,6 +50,7 @@ class IndexItems {
     void AddName(std::string_view filename, int32_t directory, bool ascii);
     void AppendAscii(std::string_view filename);
     void AddOther(std::string_view filename);
+    void CoverLowerBits();
     void FindAll(const SubstringSearcher& searcher, SearchProgress* progress,
                  std::vector<int32_t>& positions) const;
     size_t CheckedIndex(int32_t position) const;

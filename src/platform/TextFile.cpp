@@ -5,14 +5,9 @@
 #include "platform/Text.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstdio>
 #include <cstring>
 #include <random>
-
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
 
 namespace quorin {
 namespace {
@@ -35,31 +30,6 @@ std::string TemporaryNameFor(const std::string& path) {
 }
 
 }  // namespace
-
-LineScan ScanLine(const char* from, const char* last) {
-    const char* p = from;
-    unsigned highBits = 0;
-#if defined(__SSE2__)
-    const __m128i cr = _mm_set1_epi8('\r');
-    const __m128i lf = _mm_set1_epi8('\n');
-    for (; last - p >= 16; p += 16) {
-        const __m128i chunk = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
-        const auto breaks = static_cast<unsigned>(
-            _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(chunk, cr), _mm_cmpeq_epi8(chunk, lf))));
-        const auto high = static_cast<unsigned>(_mm_movemask_epi8(chunk));
-        if (breaks != 0) {
-            const int at = std::countr_zero(breaks);
-            highBits |= high & ((1u << at) - 1);
-            return LineScan{p + at, highBits == 0};
-        }
-        highBits |= high;
-    }
-#endif
-    for (; p < last && *p != '\r' && *p != '\n'; ++p) {
-        highBits |= static_cast<unsigned char>(*p) & 0x80u;
-    }
-    return LineScan{p, highBits == 0};
-}
 
 std::string ReadWholeFile(const std::string& path) {
     std::string bytes;
