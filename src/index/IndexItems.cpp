@@ -163,24 +163,24 @@ void IndexItems::AppendAscii(std::string_view filename) {
     CoverLowerBits();
     char* upper = upperNames_.data() + start;
 #if defined(__SSE2__)
-    if (size >= 8) {
-        const size_t last = size >= 16 ? size - 16 : 0;
+    if (size >= 16) {
+        const size_t last = size - 16;
         for (size_t i = 0;; i = std::min(i + 16, last)) {
             const auto [bytes, lowerMask] = UpperCased(Piece(filename, i));
-            if (lowerMask != 0 && size >= 16) {
-                _mm_storeu_si128(reinterpret_cast<__m128i*>(upper + i), bytes);
-                OrBits(lowerBits_, start + i, lowerMask);
-            } else if (lowerMask != 0) {
-                _mm_storel_epi64(reinterpret_cast<__m128i*>(upper), bytes);
-                _mm_storel_epi64(reinterpret_cast<__m128i*>(upper + size - 8),
-                                 _mm_srli_si128(bytes, 8));
-                OrBits(lowerBits_, start, lowerMask & 0xFF);
-                OrBits(lowerBits_, start + size - 8, lowerMask >> 8);
-            }
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(upper + i), bytes);
+            OrBits(lowerBits_, start + i, lowerMask);
             if (i == last) {
                 break;
             }
         }
+        return;
+    }
+    if (size >= 8) {
+        const auto [bytes, lowerMask] = UpperCased(Piece(filename, 0));
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(upper), bytes);
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(upper + size - 8), _mm_srli_si128(bytes, 8));
+        OrBits(lowerBits_, start, lowerMask & 0xFF);
+        OrBits(lowerBits_, start + size - 8, lowerMask >> 8);
         return;
     }
 #endif
