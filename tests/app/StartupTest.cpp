@@ -47,12 +47,12 @@ TEST_F(StartupTest, AnsweringNoToTheMissingIndexEndsTheProgramAfterRecordingTheP
     prompter.answers = {PromptAnswer::No};
     EXPECT_FALSE(RunMain());
     ASSERT_EQ(prompter.boxes.size(), 1u);
-    EXPECT_EQ(prompter.boxes[0].title, "Missing index");
-    EXPECT_EQ(prompter.boxes[0].text,
-              "Your index file is either missing or corrupted. Would you like to generate a new "
-              "index file now? (Answering no will exit the program.)");
-    EXPECT_EQ(prompter.boxes[0].buttons, PromptButtons::YesNo);
-    EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Question);
+    EXPECT_EQ(prompter.boxes[0],
+              (ScriptedPrompter::Box{
+                  "Missing index",
+                  "Your index file is either missing or corrupted. Would you like to generate a "
+                  "new index file now? (Answering no will exit the program.)",
+                  PromptButtons::YesNo, PromptIcon::Question}));
     EXPECT_EQ(unloads, 1);
     EXPECT_FALSE(IndexFileExists());
     EXPECT_EQ(settings.Get("Main", "Path", ""), program.Path() + "\\");

@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,13 @@ class ScriptedPrompter final : public Prompter {
         std::string text;
         PromptButtons buttons;
         PromptIcon icon;
+
+        bool operator==(const Box&) const = default;
+        friend std::ostream& operator<<(std::ostream& out, const Box& box) {
+            return out << '"' << box.title << "\": \"" << box.text << "\" ("
+                       << static_cast<int>(box.buttons) << ", " << static_cast<int>(box.icon)
+                       << ')';
+        }
     };
     PromptAnswer Ask(std::string_view title, std::string_view text, PromptButtons buttons,
                      PromptIcon icon) override {

@@ -194,12 +194,11 @@ TEST_F(WelcomeTest, KeysGoOnAndCancelAsksWhereNoStaysAndYesEndsTheWizardStillPen
     prompter.answers = {PromptAnswer::No, PromptAnswer::Yes};
     PressKey(VK_ESCAPE);
     ASSERT_EQ(prompter.boxes.size(), 1u);
-    EXPECT_EQ(prompter.boxes[0].title, "Confirm cancel");
-    EXPECT_EQ(prompter.boxes[0].text,
-              "Are you sure you want to cancel? Quorin will not run until you complete this "
-              "configuration wizard.");
-    EXPECT_EQ(prompter.boxes[0].buttons, PromptButtons::YesNo);
-    EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Question);
+    EXPECT_EQ(prompter.boxes[0],
+              (ScriptedPrompter::Box{"Confirm cancel",
+                                     "Are you sure you want to cancel? Quorin will not run "
+                                     "until you complete this configuration wizard.",
+                                     PromptButtons::YesNo, PromptIcon::Question}));
 
     PressKey(VK_TAB, {VK_CONTROL});
     EXPECT_EQ(PageShown(), 0) << "No stays; Ctrl+Tab goes round";

@@ -338,11 +338,11 @@ TEST_F(MainWindowTest, ABuildDisablesTabsShowsProgressKeepsTheWaitPointerRefuses
     EXPECT_EQ(tabsEnabled, std::vector<bool>(kTabCount, false));
     EXPECT_TRUE(progressOnTop);
     ASSERT_EQ(prompter.boxes.size(), 1u);
-    EXPECT_EQ(prompter.boxes[0].title, "Cannot exit");
-    EXPECT_EQ(prompter.boxes[0].text,
-              "You cannot exit the program while it is indexing. Cancel the indexing then exit "
-              "the program.");
-    EXPECT_EQ(prompter.boxes[0].icon, PromptIcon::Information);
+    EXPECT_EQ(prompter.boxes[0],
+              (ScriptedPrompter::Box{"Cannot exit",
+                                     "You cannot exit the program while it is indexing. "
+                                     "Cancel the indexing then exit the program.",
+                                     PromptButtons::Ok, PromptIcon::Information}));
     EXPECT_TRUE(IsWindowVisible(Window())) << "shown for the message";
     EXPECT_EQ(unloads, 0);
     EXPECT_NE(index.Get().LastUpdated, 0) << "the build went on";
