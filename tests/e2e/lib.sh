@@ -153,12 +153,16 @@ has_focus() {
     id=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -1)
     [ -n "$id" ] && [ "$(xdotool getwindowfocus 2>/dev/null)" = "$id" ]
 }
+# Gives the X input focus to the window titled $1.
+give_focus() {
+    xdotool windowfocus "$(xdotool search --onlyvisible --name "$1" | head -1)" 2>/dev/null || true
+}
 # Waits for the dialog titled $1 to have the focus. Under load Wine can show a dialog without
 # making it active: it is given the focus then.
 take_focus() {
     for _ in 1 2 3; do
         poll 5 has_focus "$1" && return 0
-        xdotool windowfocus "$(xdotool search --onlyvisible --name "$1" | head -1)" 2>/dev/null || true
+        give_focus "$1"
     done
     fail "the window $1 did not take the focus"
 }
@@ -186,8 +190,7 @@ type_word() {  # WORD
     wait_until 30 "the main window shows no word box" word_box_shown
     for try in 1 2 3 4 5; do
         # Under load Wine's desktop can keep the X focus off the active window; keys go nowhere.
-        [ "$try" = 1 ] || xdotool windowfocus "$(xdotool search --onlyvisible --name '^Quorin$' |
-            head -1)" 2>/dev/null || true
+        [ "$try" = 1 ] || give_focus '^Quorin$'
         xdotool mousemove 620 399 click 1
         xdotool key ctrl+a BackSpace
         poll 5 word_box_empty || continue
