@@ -15,11 +15,11 @@ using EntryCallback = std::function<void(std::string_view name, bool isFolder)>;
 // the listing includes "." and "..", as the OS returns them.
 void ListFolder(const std::string& folder, bool includeSystem, const EntryCallback& onEntry);
 
-// Lists one folder after another as ListFolder does, for one walk. On POSIX the parent of the
-// folder last listed stays open, so that a breadth-first walk opens each of its subfolders by
-// name rather than by a path the kernel looks up again from the root (a third of a deep walk's
-// time). A folder moved during the walk may thus still be listed at its old place, as a walk
-// that had already read it would.
+// Lists one folder after another as ListFolder does, for one breadth-first walk. On POSIX a
+// folder listed with subfolders stays open until they come (while half the process's
+// descriptors allow), so that the walk opens each folder once, by its name from its parent,
+// rather than by a path the kernel looks up again from the root. A folder moved during the
+// walk may thus still be listed at its old place, as a walk that had already read it would.
 class FolderLister {
   public:
     FolderLister();
@@ -30,8 +30,8 @@ class FolderLister {
     void List(const std::string& folder, bool includeSystem, const EntryCallback& onEntry);
 
   private:
-    struct OpenParent;
-    std::unique_ptr<OpenParent> parent_;
+    struct OpenParents;
+    std::unique_ptr<OpenParents> parents_;
 };
 
 // Whether a listing of exactly this name, wildcards allowed, finds a normal file: no folder and

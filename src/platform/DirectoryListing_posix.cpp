@@ -2,11 +2,14 @@
 
 #include "platform/UniqueFd.h"
 
+#include <algorithm>
 #include <array>
+#include <deque>
 
 #include <dirent.h>
 #include <fcntl.h>
 #include <glob.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace quorin {
@@ -36,15 +39,17 @@ Kind KindOf(int folderFd, const dirent64& entry) {
     return S_ISDIR(status.st_mode) ? Kind::Folder : Kind::File;
 }
 
-void ListOpenFolder(const UniqueFd& folderFd, const EntryCallback& onEntry) {
+// Lists the open folder; true when it holds a subfolder.
+bool ListOpenFolder(const UniqueFd& folderFd, const EntryCallback& onEntry) {
+    bool anyFolder = false;
     if (!folderFd) {
-        return;
+        return anyFolder;
     }
     alignas(dirent64) std::array<char, kBufferSize> buffer;
     for (;;) {
         const ssize_t filled = getdents64(folderFd.get(), buffer.data(), buffer.size());
         if (filled <= 0) {
-            return;
+            return anyFolder;
         }
         for (size_t offset = 0; offset < static_cast<size_t>(filled);) {
             const auto& entry = *reinterpret_cast<const dirent64*>(buffer.data() + offset);
@@ -55,56 +60,107 @@ void ListOpenFolder(const UniqueFd& folderFd, const EntryCallback& onEntry) {
             }
             const Kind kind = KindOf(folderFd.get(), entry);
             if (kind != Kind::Vanished) {
+                anyFolder |= kind == Kind::Folder;
                 onEntry(name, kind == Kind::Folder);
             }
         }
     }
 }
 
-UniqueFd OpenFolder(int atFd, const std::string& path, int mode = O_RDONLY) {
-    return UniqueFd(
-        openat(atFd, path.empty() ? "/" : path.c_str(), mode | O_DIRECTORY | O_CLOEXEC));
+UniqueFd OpenFolder(int atFd, const char* path, int mode = O_RDONLY) {
+    return UniqueFd(openat(atFd, *path != 0 ? path : "/", mode | O_DIRECTORY | O_CLOEXEC));
 }
 
 // A parent is only a place to open its subfolders from: where the system has them, a path-only
-// handle costs less to open and to close (a sixth of a walk's opens are of parents).
+// handle costs less to open and to close.
 #if defined(O_PATH)
 constexpr int kParentMode = O_PATH;
 #else
 constexpr int kParentMode = O_RDONLY;
 #endif
 
+// Half the descriptors the process may hold, so that the rest of the program keeps its share.
+size_t KeepableFolders() {
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY) {
+        return 512;
+    }
+    return static_cast<size_t>(limit.rlim_cur / 2);
+}
+
 }  // namespace
 
 void ListFolder(const std::string& folder, bool /*includeSystem*/, const EntryCallback& onEntry) {
-    ListOpenFolder(OpenFolder(AT_FDCWD, folder), onEntry);
+    ListOpenFolder(OpenFolder(AT_FDCWD, folder.c_str()), onEntry);
 }
 
-struct FolderLister::OpenParent {
-    std::string path;
-    UniqueFd fd;
+// A folder listed with subfolders stays open, in the order its subfolders will come: a
+// breadth-first walk lists them after those of every folder listed before it, so the parent
+// wanted next is at the front, and each folder is opened once, by its name. Folders beyond the
+// descriptors we may keep wait without theirs, and their subfolders are opened from the
+// parent opened again by path.
+struct FolderLister::OpenParents {
+    struct Waiting {
+        std::string path;
+        UniqueFd fd;
+    };
+    std::deque<Waiting> waiting;
+    size_t open = 0;
+    size_t maxOpen = KeepableFolders();
+    std::string reopenedPath;
+    UniqueFd reopened;
+
+    // The waiting entry of path, dropping the entries before it (their subfolders are done or
+    // were all left out); nothing when path is not waiting (a walk's root).
+    const Waiting* Find(std::string_view path) {
+        const auto found = std::find_if(waiting.begin(), waiting.end(),
+                                        [&](const Waiting& entry) { return entry.path == path; });
+        if (found == waiting.end()) {
+            return nullptr;
+        }
+        for (auto dropped = waiting.begin(); dropped != found; ++dropped) {
+            open -= dropped->fd ? 1 : 0;
+        }
+        waiting.erase(waiting.begin(), found);
+        return &waiting.front();
+    }
+
+    int At(const Waiting& parent) {
+        if (parent.fd) {
+            return parent.fd.get();
+        }
+        if (reopenedPath != parent.path) {
+            reopenedPath = parent.path;
+            reopened = OpenFolder(AT_FDCWD, reopenedPath.c_str(), kParentMode);
+        }
+        return reopened ? reopened.get() : AT_FDCWD;
+    }
+
+    void Keep(const std::string& path, UniqueFd fd) {
+        if (open < maxOpen) {
+            ++open;
+        } else {
+            fd.reset();
+        }
+        waiting.push_back({path, std::move(fd)});
+    }
 };
 
-FolderLister::FolderLister() : parent_(std::make_unique<OpenParent>()) {}
+FolderLister::FolderLister() : parents_(std::make_unique<OpenParents>()) {}
 
 FolderLister::~FolderLister() = default;
 
 void FolderLister::List(const std::string& folder, bool /*includeSystem*/,
                         const EntryCallback& onEntry) {
     const size_t slash = folder.rfind('/');
-    if (slash == std::string::npos || slash == 0 || slash + 1 == folder.size()) {
-        ListOpenFolder(OpenFolder(AT_FDCWD, folder), onEntry);
-        return;
+    const bool hasParent = slash != std::string::npos && slash != 0 && slash + 1 != folder.size();
+    const OpenParents::Waiting* parent =
+        hasParent ? parents_->Find(std::string_view(folder.data(), slash)) : nullptr;
+    const int at = parent != nullptr ? parents_->At(*parent) : AT_FDCWD;
+    UniqueFd fd = OpenFolder(at, folder.c_str() + (at == AT_FDCWD ? 0 : slash + 1));
+    if (ListOpenFolder(fd, onEntry)) {
+        parents_->Keep(folder, std::move(fd));
     }
-    const std::string_view parent(folder.data(), slash);
-    if (parent_->path != parent) {
-        parent_->path = parent;
-        parent_->fd = OpenFolder(AT_FDCWD, parent_->path, kParentMode);
-    }
-    // A parent that could not be opened is no help.
-    ListOpenFolder(parent_->fd ? OpenFolder(parent_->fd.get(), folder.substr(slash + 1))
-                               : OpenFolder(AT_FDCWD, folder),
-                   onEntry);
 }
 
 bool AnyNormalFileMatches(const std::string& pattern) {

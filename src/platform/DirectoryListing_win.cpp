@@ -34,9 +34,9 @@ void ListFolder(const std::string& folder, bool includeSystem, const EntryCallba
 }
 
 // Windows opens a folder only by its path, so there is nothing to keep between listings.
-struct FolderLister::OpenParent {};
+struct FolderLister::OpenParents {};
 
-FolderLister::FolderLister() : parent_(std::make_unique<OpenParent>()) {}
+FolderLister::FolderLister() : parents_(std::make_unique<OpenParents>()) {}
 
 FolderLister::~FolderLister() = default;
 

@@ -8,8 +8,10 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 #ifndef _WIN32
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -79,6 +81,24 @@ TEST(ListFolder, PosixSkipsLineBreaksNeverFollowsLinksAndListsNothingUnreadable)
     temp.WriteFile("Target/inside.txt", "x");
     ASSERT_EQ(symlink(target.c_str(), JoinPath(temp.Path(), "link").c_str()), 0);
     EXPECT_EQ(List(temp.Path(), false), (Entries{{"Target", true}, {"link", false}}));
+    // A breadth-first walk with room for only 16 open folders: the others' subfolders are
+    // opened from their parent opened again by path.
+    for (int folder = 0; folder < 20; ++folder) {
+        temp.MakeFolder("Wide/" + std::to_string(folder) + "/Inner");
+    }
+    rlimit limit{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &limit), 0);
+    const rlimit few{32, limit.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &few), 0);
+    FolderLister lister;
+    std::vector<std::string> walk = {JoinPath(temp.Path(), "Wide")};
+    for (size_t at = 0; at < walk.size(); ++at) {
+        const std::string folder = walk[at];
+        lister.List(folder, false,
+                    [&](std::string_view name, bool) { walk.push_back(JoinPath(folder, name)); });
+    }
+    setrlimit(RLIMIT_NOFILE, &limit);
+    EXPECT_EQ(walk.size(), 41U);
     if (geteuid() != 0) {  // root reads every folder
         ASSERT_EQ(chmod(target.c_str(), 0), 0);
         EXPECT_EQ(List(target, false), Entries{});
