@@ -7,6 +7,8 @@
 //   quorin-bench find FOLDER WORD               the matching names, one per LF line
 //   quorin-bench walk SETTINGS                  the folder walk of a build, not saved (timed
 //                                               from outside)
+//   quorin-bench read ROOT                      every folder under ROOT opened, read and closed
+//                                               in the walk's order, nothing indexed
 //   quorin-bench build FOLDER SETTINGS RUNS     a silent build and save with an INI file
 // Each timing command prints one JSON object: medians in seconds of the wall clock and of the
 // CPU time.
@@ -23,6 +25,7 @@
 #include "platform/Errors.h"
 #include "platform/IniSettingsStore.h"
 #include "platform/MemorySettingsStore.h"
+#include "platform/Path.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -153,6 +156,23 @@ int Walk(const std::string& settingsPath) {
     return 0;
 }
 
+// The part of a walk that is the system's: the same folders listed in the same order, and only
+// the queue of folders kept.
+int Read(const std::string& root) {
+    std::vector<std::string> queue = {root};
+    FolderLister lister;
+    for (size_t at = 0; at < queue.size(); ++at) {
+        const std::string folder = queue[at];
+        lister.List(folder, true, [&](std::string_view name, bool isFolder) {
+            if (isFolder) {
+                queue.push_back(JoinPath(folder, name));
+            }
+        });
+    }
+    std::printf("{\"folders\": %zu}\n", queue.size());
+    return 0;
+}
+
 int Run(const std::vector<std::string>& args) {
     const auto command = args.empty() ? std::string() : args[0];
     const auto number = [&](size_t i) { return std::atoi(args[i].c_str()); };
@@ -174,12 +194,15 @@ int Run(const std::vector<std::string>& args) {
     if (command == "walk" && args.size() == 2) {
         return Walk(args[1]);
     }
+    if (command == "read" && args.size() == 2) {
+        return Read(args[1]);
+    }
     if (command == "build" && args.size() == 4) {
         return Build(args[1], args[2], number(3));
     }
     std::fprintf(stderr,
                  "usage: quorin-bench load|memory FOLDER | loadtimes FOLDER RUNS |\n"
-                 "       lookup FOLDER WORD RUNS | find FOLDER WORD | walk SETTINGS |\n"
+                 "       lookup FOLDER WORD RUNS | find FOLDER WORD | walk SETTINGS | read ROOT |\n"
                  "       build FOLDER SETTINGS RUNS\n");
     return 2;
 }
