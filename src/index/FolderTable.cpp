@@ -58,8 +58,9 @@ bool FolderTable::Append(std::string_view path) {
     }
     const auto slot = static_cast<size_t>(count_++);
     if (slot == pieces_.size()) {
-        Store(slot, path, last_);
-        last_ = path;
+        // Only the part that differs is copied: a sibling's path differs in its name.
+        last_.resize(Store(slot, path, last_));
+        last_.append(path.substr(last_.size()));
     } else {
         StoreAgain(slot, path);
     }
@@ -85,7 +86,7 @@ std::optional<int32_t> FolderTable::Find(std::string_view path) const {
     return std::nullopt;
 }
 
-void FolderTable::Store(size_t slot, std::string_view path, std::string_view previous) {
+size_t FolderTable::Store(size_t slot, std::string_view path, std::string_view previous) {
     const size_t shared = slot % kBlock == 0 ? 0 : CommonPrefix(path, previous);
     const Piece piece{text_.size(), static_cast<uint32_t>(shared),
                       static_cast<uint32_t>(path.size() - shared)};
@@ -95,6 +96,7 @@ void FolderTable::Store(size_t slot, std::string_view path, std::string_view pre
     } else {
         pieces_[slot] = piece;
     }
+    return shared;
 }
 
 // A cleared table filled again: the later slots of the block are stored anew behind the new

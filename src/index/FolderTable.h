@@ -51,7 +51,8 @@ class FolderTable {
         uint32_t size;    // of the rest
     };
 
-    void Store(size_t slot, std::string_view path, std::string_view previous);
+    // Gives the length the path shares with the previous one.
+    size_t Store(size_t slot, std::string_view path, std::string_view previous);
     void StoreAgain(size_t slot, std::string_view path);
     // Turns the path of slot - 1 (nothing at a block's start) into that of slot.
     void Extend(std::string& path, size_t slot) const;

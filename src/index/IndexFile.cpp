@@ -51,6 +51,26 @@ std::optional<int32_t> ParseInRange(std::string_view line, int32_t max) {
     return number;
 }
 
+bool EndsLineAt(const char* at, const char* end) {
+    return end - at >= 2 && at[0] == '\r' && at[1] == '\n';
+}
+
+// Folder lines as the program writes them (an ASCII path, CR LF), taken straight from the bytes
+// read ahead, as records are below; counts them off `left` and gives the bytes taken.
+size_t TakeWrittenFolders(std::string_view ahead, int32_t& left, FolderTable& folders) {
+    const char* const end = ahead.data() + ahead.size();
+    const char* line = ahead.data();
+    for (; left > 0; --left) {
+        const LineScan scan = ScanLine(line, end);
+        if (!scan.ascii || !EndsLineAt(scan.end, end)) {
+            break;
+        }
+        folders.Append(std::string_view(line, static_cast<size_t>(scan.end - line)));
+        line = scan.end + 2;
+    }
+    return static_cast<size_t>(line - ahead.data());
+}
+
 bool ReadFolders(TextFileReader& reader, std::string_view& line, uintmax_t fileBytes,
                  FolderTable& folders) {
     if (!reader.ReadLine(line)) {
@@ -68,17 +88,17 @@ bool ReadFolders(TextFileReader& reader, std::string_view& line, uintmax_t fileB
     folders.Reserve(static_cast<int32_t>(std::min<uintmax_t>(*count, fileBytes / 16)),
                     static_cast<size_t>(fileBytes / 4));
     folders.Clear();
-    for (int32_t slot = 0; slot < *count; ++slot) {
+    for (int32_t left = *count; left > 0; --left) {
+        reader.Skip(TakeWrittenFolders(reader.Ahead(), left, folders));
+        if (left == 0) {
+            break;
+        }
         if (!reader.ReadLine(line)) {
             return false;
         }
         folders.Append(line);
     }
     return true;
-}
-
-bool EndsLineAt(const char* at, const char* end) {
-    return end - at >= 2 && at[0] == '\r' && at[1] == '\n';
 }
 
 // Records as the program writes them (" 42" CR LF, an ASCII name, CR LF), taken straight from the
