@@ -148,20 +148,19 @@ void IndexItems::AddName(std::string_view filename, int32_t directory, bool asci
     } else {
         AddOther(filename);
     }
-    upperNames_.push_back(kNameEnd);
     directories_.push_back(directory);
 }
 
-// Upper-cases the name 16 bytes at a time and notes which were lower-case letters. The name is
-// read where the caller has it, never from the copy just written, whose loads would wait on the
-// copy's stores. A name's last piece is the 16 bytes that end it, which overlap the piece
-// before: upper-casing a byte twice changes nothing.
+// Upper-cases the name 16 bytes at a time into its slot and notes which were lower-case
+// letters. A name's last piece is the 16 bytes that end it, which overlap the piece before:
+// upper-casing a byte twice changes nothing.
 void IndexItems::AppendAscii(std::string_view filename) {
     const size_t start = upperNames_.size();
     const size_t size = filename.size();
-    upperNames_.append(filename);
+    upperNames_.resize(start + size + 1);
     CoverLowerBits();
     char* upper = upperNames_.data() + start;
+    upper[size] = kNameEnd;
 #if defined(__SSE2__)
     if (size >= 16) {
         const size_t last = size - 16;
@@ -185,8 +184,10 @@ void IndexItems::AppendAscii(std::string_view filename) {
     }
 #endif
     for (size_t i = 0; i < size; ++i) {
-        if (upper[i] >= 'a' && upper[i] <= 'z') {
-            upper[i] = static_cast<char>(upper[i] - ('a' - 'A'));
+        const char c = filename[i];
+        const bool lower = c >= 'a' && c <= 'z';
+        upper[i] = lower ? static_cast<char>(c - ('a' - 'A')) : c;
+        if (lower) {
             OrBits(lowerBits_, start + i, 1);
         }
     }
@@ -205,7 +206,9 @@ void IndexItems::AddOther(std::string_view filename) {
     others_.push_back(OtherName{static_cast<uint32_t>(directories_.size()),
                                 Offset(otherNames_.size()), Offset(filename.size())});
     otherNames_.append(filename);
-    upperNames_.append(ToUpper(filename));
+    const std::string upper = ToUpper(filename);
+    upperNames_.insert(upperNames_.end(), upper.begin(), upper.end());
+    upperNames_.push_back(kNameEnd);
     CoverLowerBits();
 }
 
@@ -266,7 +269,7 @@ std::vector<int32_t> IndexItems::Find(std::string_view upperWord, SearchProgress
 void IndexItems::FindAll(const SubstringSearcher& searcher, SearchProgress* progress,
                          std::vector<int32_t>& positions) const {
     constexpr size_t kPlaces = SubstringSearcher::kPlaces;
-    const std::string_view all(upperNames_);
+    const std::string_view all(upperNames_.data(), upperNames_.size());
     // The last bytes are read from a copy that can be read beyond them.
     const size_t reach = kPlaces + searcher.Size();  // the bytes Starts reads, and one
     const size_t tailStart =
@@ -328,7 +331,8 @@ size_t IndexItems::CheckedIndex(int32_t position) const {
 
 std::string_view IndexItems::UpperName(size_t index) const {
     const size_t start = slotStarts_[index];
-    return std::string_view(upperNames_).substr(start, SlotStart(index + 1) - 1 - start);
+    return std::string_view(upperNames_.data(), upperNames_.size())
+        .substr(start, SlotStart(index + 1) - 1 - start);
 }
 
 size_t IndexItems::SlotStart(size_t index) const {

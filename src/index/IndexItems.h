@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "index/IndexProgress.h"
+#include "index/UnsetAllocator.h"
 #include "index/clsItem.h"
 
 namespace quorin {
@@ -58,7 +59,7 @@ class IndexItems {
     size_t SlotStart(size_t index) const;
     const OtherName* FindOther(size_t index) const;
 
-    std::string upperNames_;
+    std::vector<char, UnsetAllocator<char>> upperNames_;
     std::vector<uint64_t> lowerBits_;  // bit i: byte i of upperNames_ was a lower-case letter
     std::string otherNames_;           // the names that are not ASCII, as they are
     std::vector<OtherName> others_;    // in record order
