@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <numeric>
 
 #include "platform/Text.h"
 
@@ -26,21 +25,64 @@ std::string SortKeyOf(const std::wstring& text) {
     return key;
 }
 
+// 8 bytes of a key from `from` on as a number whose order is theirs (zeros past its end).
+uint64_t PieceOf(const std::string& key, size_t from) {
+    uint64_t piece = 0;
+    for (size_t i = from; i < from + 8; ++i) {
+        piece = (piece << 8) | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
+    }
+    return piece;
+}
+
+struct RankedKey {
+    uint64_t piece;  // of the key, at the bytes being compared
+    uint32_t size;
+    int32_t index;
+};
+using RankedKeys = std::vector<RankedKey>::iterator;
+
+// Sorts the keys by their bytes from `from` on, 8 at a time as one number; only keys alike in
+// those 8 go on to the next 8. Matches share long starts (often the word looked for), and
+// comparing 100,000 scattered keys whole from their first byte took a third of a sort by Name.
+void SortKeysFrom(RankedKeys first, RankedKeys last, const std::vector<std::string>& keys,
+                  size_t from) {
+    bool longer = false;
+    for (auto entry = first; entry != last; ++entry) {
+        entry->piece = PieceOf(keys[static_cast<size_t>(entry->index)], from);
+        longer = longer || entry->size > from + 8;
+    }
+    // Of two keys that read alike, the one that ends first comes first.
+    std::sort(first, last, [](const RankedKey& a, const RankedKey& b) {
+        return a.piece != b.piece ? a.piece < b.piece : a.size < b.size;
+    });
+    if (!longer) {
+        return;
+    }
+    for (auto run = first; run != last;) {
+        const auto end = std::find_if(
+            run, last, [piece = run->piece](const RankedKey& key) { return key.piece != piece; });
+        if (end - run > 1) {
+            SortKeysFrom(run, end, keys, from + 8);
+        }
+        run = end;
+    }
+}
+
 // Each key's place among the keys, equal keys sharing one.
 std::vector<int32_t> RanksOf(const std::vector<std::string>& keys) {
-    std::vector<int32_t> order(keys.size());
-    std::iota(order.begin(), order.end(), 0);
-    std::sort(order.begin(), order.end(), [&keys](int32_t a, int32_t b) {
-        return keys[static_cast<size_t>(a)] < keys[static_cast<size_t>(b)];
-    });
+    std::vector<RankedKey> sorted(keys.size());
+    for (size_t i = 0; i < keys.size(); ++i) {
+        sorted[i] = RankedKey{0, static_cast<uint32_t>(keys[i].size()), static_cast<int32_t>(i)};
+    }
+    SortKeysFrom(sorted.begin(), sorted.end(), keys, 0);
     std::vector<int32_t> ranks(keys.size());
     int32_t rank = 0;
-    for (size_t i = 0; i < order.size(); ++i) {
-        if (i > 0 &&
-            keys[static_cast<size_t>(order[i])] != keys[static_cast<size_t>(order[i - 1])]) {
+    for (size_t i = 0; i < sorted.size(); ++i) {
+        if (i > 0 && keys[static_cast<size_t>(sorted[i].index)] !=
+                         keys[static_cast<size_t>(sorted[i - 1].index)]) {
             ++rank;
         }
-        ranks[static_cast<size_t>(order[i])] = rank;
+        ranks[static_cast<size_t>(sorted[i].index)] = rank;
     }
     return ranks;
 }
