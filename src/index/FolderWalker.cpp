@@ -12,23 +12,20 @@ FolderWalker::FolderWalker(WalkOptions options, FolderTable& folders, IndexItems
 
 void FolderWalker::Walk(int32_t slot) {
     const std::string folder = folders_.Path(slot);
-    subfolder_ = JoinPath(folder, "");
-    const size_t nameAt = subfolder_.size();
     lister_.List(folder, options_.includeSystemFolders, [&](std::string_view name, bool isFolder) {
         if (isFolder) {
-            subfolder_.resize(nameAt);
-            AddFolder(subfolder_.append(name), name);
+            AddFolder(folder, name);
         } else if (PassesFileTypeFilter(name, options_.filter, options_.filterIsInclude)) {
             items_.Add(name, slot);
         }
     });
 }
 
-void FolderWalker::AddFolder(std::string_view path, std::string_view name) {
+void FolderWalker::AddFolder(const std::string& parent, std::string_view name) {
     if (name == "." || name == ".." || (options_.ignoreTempFolders && IsTempFolderName(name))) {
         return;
     }
-    if (!folders_.Append(path)) {
+    if (!folders_.Append(JoinPath(parent, name))) {
         ++foldersLeftOut_;
     }
 }

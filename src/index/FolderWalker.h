@@ -32,13 +32,12 @@ class FolderWalker {
     int32_t FoldersLeftOut() const { return foldersLeftOut_; }
 
   private:
-    void AddFolder(std::string_view path, std::string_view name);
+    void AddFolder(const std::string& parent, std::string_view name);
 
     WalkOptions options_;
     FolderTable& folders_;
     IndexItems& items_;
     FolderLister lister_;
-    std::string subfolder_;  // the path of the subfolder being added, kept to save allocations
     int32_t foldersLeftOut_ = 0;
 };
 
