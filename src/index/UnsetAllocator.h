@@ -3,13 +3,12 @@
 #include <cstddef>
 #include <memory>
 #include <new>
-#include <utility>
 
 namespace quorin {
 
 // Growing a vector with this allocator leaves the new elements unset, for a buffer whose every
-// new byte is written right after. (Not derived from std::allocator, whose library shortcut
-// would zero them.)
+// new byte is written right after; elements given a value are made as by std::allocator. (Not
+// derived from std::allocator, whose library shortcut would zero them.)
 template <typename T>
 struct UnsetAllocator {
     using value_type = T;
@@ -21,10 +20,6 @@ struct UnsetAllocator {
     template <typename U>
     void construct(U* at) noexcept {
         ::new (static_cast<void*>(at)) U;
-    }
-    template <typename U, typename... Args>
-    void construct(U* at, Args&&... args) {
-        ::new (static_cast<void*>(at)) U(std::forward<Args>(args)...);
     }
     bool operator==(const UnsetAllocator& /*other*/) const { return true; }
 };
